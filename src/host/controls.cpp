@@ -1,0 +1,82 @@
+#include "host/controls.h"
+
+#include "host/desktop.h"
+
+namespace quill::host {
+
+void RectControl::ShowState() {
+  Peer().Place(frame_);
+  Peer().SetVisible(visible_);
+  Peer().SetEnabled(enabled_);
+}
+
+void RectControl::Place(const Rect& frame) {
+  if (frame == frame_) return;
+  frame_ = frame;
+  Peer().Place(frame_);
+}
+
+void RectControl::SetLeft(std::int32_t left) { Place({left, frame_.top, frame_.width, frame_.height}); }
+void RectControl::SetTop(std::int32_t top) { Place({frame_.left, top, frame_.width, frame_.height}); }
+void RectControl::SetWidth(std::int32_t width) { Place({frame_.left, frame_.top, width, frame_.height}); }
+void RectControl::SetHeight(std::int32_t height) { Place({frame_.left, frame_.top, frame_.width, height}); }
+
+void RectControl::SetVisible(bool visible) {
+  if (visible == visible_) return;
+  visible_ = visible;
+  Peer().SetVisible(visible);
+}
+
+void RectControl::SetEnabled(bool enabled) {
+  if (enabled == enabled_) return;
+  enabled_ = enabled;
+  Peer().SetEnabled(enabled);
+}
+
+Canvas::Canvas(Window& window, Canvas* parent, const Rect& frame)
+    : RectControl(frame), peer_(window.Peer().NewCanvas(*this, parent ? parent->peer_.get() : nullptr)) {
+  ShowState();
+}
+
+void Canvas::SetBackdrop(std::shared_ptr<Picture> backdrop) {
+  backdrop_ = std::move(backdrop);
+  peer_->SetBackdrop(backdrop_);
+}
+
+StaticText::StaticText(Window& window, Canvas* parent, const Rect& frame, const TextStyle& style,
+                       std::string text)
+    : RectControl(frame), peer_(window.Peer().NewStaticText(style, parent ? parent->peer_.get() : nullptr)) {
+  SetText(std::move(text));
+  ShowState();
+}
+
+void StaticText::SetText(std::string text) {
+  text_ = std::move(text);
+  peer_->SetText(text_);
+}
+
+CheckBox::CheckBox(Window& window, Canvas* parent, const Rect& frame, const std::string& caption,
+                   const TextFace& face)
+    : RectControl(frame),
+      peer_(window.Peer().NewCheckBox(*this, caption, face, parent ? parent->peer_.get() : nullptr)) {
+  ShowState();
+}
+
+void CheckBox::SetValue(bool value) {
+  value_ = value;
+  peer_->SetValue(value);
+}
+
+Window::Window(const WindowStyle& style) : style_(style), peer_(Desktop::Current().NewWindow(style)) {}
+
+// Controls go before the window's peer, the last made first.
+Window::~Window() {
+  while (!controls_.empty()) controls_.pop_back();
+}
+
+void Window::Open() {
+  Event_Open();
+  peer_->Show();
+}
+
+}  // namespace quill::host

@@ -1,0 +1,168 @@
+// Windows and the controls in them, as the program uses them. They hold the
+// state; the desktop behind them (peers.h) shows it. All of it runs on the one
+// thread that delivers events.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/geometry.h"
+#include "host/graphics.h"
+#include "host/peers.h"
+
+namespace quill::host {
+
+class Window;
+
+// A rectangle in a window. New controls are visible and enabled.
+class RectControl {
+ public:
+  virtual ~RectControl() = default;
+  RectControl(const RectControl&) = delete;
+  RectControl& operator=(const RectControl&) = delete;
+
+  std::int32_t Left() const { return frame_.left; }
+  std::int32_t Top() const { return frame_.top; }
+  std::int32_t Width() const { return frame_.width; }
+  std::int32_t Height() const { return frame_.height; }
+  bool Visible() const { return visible_; }
+  bool Enabled() const { return enabled_; }
+
+  void SetLeft(std::int32_t left);
+  void SetTop(std::int32_t top);
+  void SetWidth(std::int32_t width);
+  void SetHeight(std::int32_t height);
+  void SetVisible(bool visible);
+  void SetEnabled(bool enabled);
+
+  // Raised once, when the control has been added to its window.
+  virtual void Event_Open() {}
+
+ protected:
+  explicit RectControl(const Rect& frame) : frame_(frame) {}
+
+  virtual ControlPeer& Peer() = 0;
+
+  // For the constructors of controls, when the peer is there.
+  void ShowState();
+
+ private:
+  void Place(const Rect& frame);
+
+  Rect frame_;
+  bool visible_ = true;
+  bool enabled_ = true;
+};
+
+// A control that draws itself and takes the mouse. Points count from its own
+// upper left corner and may lie outside while a button is held.
+class Canvas : public RectControl {
+ public:
+  // `parent` must be a control of the same window, or null.
+  Canvas(Window& window, Canvas* parent, const Rect& frame);
+
+  const std::shared_ptr<Picture>& Backdrop() const { return backdrop_; }
+  void SetBackdrop(std::shared_ptr<Picture> backdrop);
+  Graphics& GetGraphics() { return peer_->GetGraphics(); }
+
+  // What the canvas says, for those who can't see it; empty if there is nothing
+  // on it to press.
+  void SetLabel(const std::string& label) { peer_->SetLabel(label); }
+
+  // Its area must be shown anew.
+  virtual void Event_Paint() {}
+  // True asks for `Event_MouseUp`.
+  virtual bool Event_MouseDown(std::int32_t /*x*/, std::int32_t /*y*/) { return false; }
+  virtual void Event_MouseUp(std::int32_t /*x*/, std::int32_t /*y*/) {}
+  virtual void Event_MouseEnter() {}
+  virtual void Event_MouseExit() {}
+
+ protected:
+  CanvasPeer& Peer() override { return *peer_; }
+
+ private:
+  friend class StaticText;
+  friend class CheckBox;
+
+  std::unique_ptr<CanvasPeer> peer_;
+  std::shared_ptr<Picture> backdrop_;
+};
+
+// One line of text.
+class StaticText : public RectControl {
+ public:
+  StaticText(Window& window, Canvas* parent, const Rect& frame, const TextStyle& style, std::string text);
+
+  const std::string& Text() const { return text_; }
+  void SetText(std::string text);
+
+ protected:
+  StaticTextPeer& Peer() override { return *peer_; }
+
+ private:
+  std::unique_ptr<StaticTextPeer> peer_;
+  std::string text_;
+};
+
+class CheckBox : public RectControl {
+ public:
+  CheckBox(Window& window, Canvas* parent, const Rect& frame, const std::string& caption,
+           const TextFace& face);
+
+  bool Value() const { return value_; }
+  void SetValue(bool value);
+
+  // The user changed it: the desktop's call.
+  void Toggled(bool value) { value_ = value; }
+
+ protected:
+  CheckBoxPeer& Peer() override { return *peer_; }
+
+ private:
+  std::unique_ptr<CheckBoxPeer> peer_;
+  bool value_ = false;
+};
+
+// A window and its controls, which it owns.
+class Window {
+ public:
+  explicit Window(const WindowStyle& style);
+  virtual ~Window();
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+
+  const std::string& Title() const { return style_.title; }
+  std::int32_t Left() const { return peer_->Frame().left; }
+  std::int32_t Top() const { return peer_->Frame().top; }
+  std::int32_t Width() const { return peer_->Frame().width; }
+  std::int32_t Height() const { return peer_->Frame().height; }
+
+  // Runs the Open event, then puts the window on the screen.
+  void Open();
+
+  WindowPeer& Peer() { return *peer_; }
+
+ protected:
+  virtual void Event_Open() {}
+
+  // Makes a control of class `T` with this window as its first argument, keeps
+  // it and raises its Open event.
+  template <typename T, typename... Args>
+  T& AddControl(Args&&... args) {
+    auto control = std::make_unique<T>(*this, std::forward<Args>(args)...);
+    T& added = *control;
+    controls_.push_back(std::move(control));
+    added.Event_Open();
+    return added;
+  }
+
+ private:
+  WindowStyle style_;
+  std::unique_ptr<WindowPeer> peer_;
+  std::vector<std::unique_ptr<RectControl>> controls_;
+};
+
+}  // namespace quill::host

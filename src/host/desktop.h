@@ -1,0 +1,70 @@
+// What the program asks of a desktop. There are two: the one that people run
+// (host/qt) and the one in memory that tests watch (host/memory).
+//
+// One desktop is current at a time, from its construction to its destruction,
+// and it outlives every window, control and picture made while it is. The free
+// functions below ask the current desktop; without one they throw
+// `NilObjectException`.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "host/files.h"
+#include "host/graphics.h"
+#include "host/peers.h"
+
+namespace quill::host {
+
+class Desktop {
+ public:
+  Desktop();
+  virtual ~Desktop();
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  static Desktop& Current();
+
+  // Shows `text` (Mac Roman) and waits until the user has seen it.
+  virtual void MsgBox(const std::string& text) = 0;
+
+  // Asks the event loop to end with that exit status. Comes back to its caller;
+  // before the loop has begun it keeps the loop from beginning.
+  virtual void Quit(std::int32_t code) = 0;
+
+  // The folder that holds the application's bundle; null if it can't be told.
+  virtual std::shared_ptr<FolderItem> ApplicationFolder() = 0;
+
+  // The version of the application that the bundle states.
+  virtual std::string LongVersion() = 0;
+
+  virtual FontMetrics& Metrics() = 0;
+
+  // A new picture, `depth` bits a pixel asked for (a desktop may give more).
+  // What it shows before anything is drawn is black. Null if there is no memory
+  // for it or a side is not above 0.
+  virtual std::shared_ptr<Picture> NewPicture(std::int32_t width, std::int32_t height,
+                                              std::int32_t depth) = 0;
+
+  // The picture stored with the program under that resource id, read anew;
+  // null if there is none.
+  virtual std::shared_ptr<Picture> StoredPicture(std::int32_t id) = 0;
+
+  virtual std::unique_ptr<WindowPeer> NewWindow(const WindowStyle& style) = 0;
+};
+
+void MsgBox(const std::string& text);
+void Quit(std::int32_t code);
+std::shared_ptr<Picture> NewPicture(std::int32_t width, std::int32_t height, std::int32_t depth);
+
+// The item at `path`. The one path there is, the empty one with path type 0,
+// gives the folder that holds the application's bundle; any other null.
+std::shared_ptr<FolderItem> GetFolderItem(const std::string& path, std::int32_t path_type = 0);
+
+// The pictures stored with the program.
+namespace ResourceFork {
+std::shared_ptr<Picture> GetPicture(std::int32_t id);
+}  // namespace ResourceFork
+
+}  // namespace quill::host

@@ -1,0 +1,97 @@
+// The desktop's side of windows and controls. A `Window`, `Canvas`,
+// `StaticText` or `CheckBox` keeps its own state and tells its peer of every
+// change; the peer shows it, and calls back when the user does something.
+//
+// A peer is owned by its control and dies with it. A control's peer never
+// outlives the peer of the window that made it.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "host/geometry.h"
+#include "host/graphics.h"
+
+namespace quill::host {
+
+class Canvas;
+class CheckBox;
+
+class ControlPeer {
+ public:
+  virtual ~ControlPeer() = default;
+
+  // `frame` counts from the parent's upper left corner.
+  virtual void Place(const Rect& frame) = 0;
+  virtual void SetVisible(bool visible) = 0;
+
+  // A control that isn't enabled gets no mouse events.
+  virtual void SetEnabled(bool enabled) = 0;
+};
+
+class CanvasPeer : public ControlPeer {
+ public:
+  // The picture under the canvas's own drawing and its child controls; null for
+  // none. What is drawn into it afterwards shows too.
+  virtual void SetBackdrop(const std::shared_ptr<Picture>& backdrop) = 0;
+
+  // The pen for the canvas's own drawing, which lies above the backdrop and
+  // stays until drawn over; a change of size may drop it.
+  virtual Graphics& GetGraphics() = 0;
+
+  // What the canvas says, for those who can't see it; empty if it is no control
+  // that can be pressed.
+  virtual void SetLabel(const std::string& label) = 0;
+};
+
+class StaticTextPeer : public ControlPeer {
+ public:
+  virtual void SetText(const std::string& text) = 0;
+};
+
+class CheckBoxPeer : public ControlPeer {
+ public:
+  virtual void SetValue(bool value) = 0;
+};
+
+// Where the line of a `StaticText` stands in its frame.
+enum class TextAlign { kLeft = 0, kCenter = 1, kRight = 2 };
+
+struct TextStyle {
+  TextFace face;
+  Color color = kBlack;
+  TextAlign align = TextAlign::kLeft;
+};
+
+// What a window is made with and keeps.
+struct WindowStyle {
+  enum class Frame { kDocument = 0, kDialog = 2 };
+
+  std::string title;
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  Frame frame = Frame::kDocument;
+  Color back_color = kWhite;
+  bool close_button = false;
+  bool resizeable = false;  // and with it the minimise and maximise boxes
+};
+
+class WindowPeer {
+ public:
+  virtual ~WindowPeer() = default;
+
+  // `parent` is a peer that this window made, null for the window itself. The
+  // new control lies above those made before it.
+  virtual std::unique_ptr<CanvasPeer> NewCanvas(Canvas& canvas, ControlPeer* parent) = 0;
+  virtual std::unique_ptr<StaticTextPeer> NewStaticText(const TextStyle& style, ControlPeer* parent) = 0;
+  virtual std::unique_ptr<CheckBoxPeer> NewCheckBox(CheckBox& box, const std::string& caption,
+                                                    const TextFace& face, ControlPeer* parent) = 0;
+
+  // Place and size of the window's content on the screen.
+  virtual Rect Frame() const = 0;
+
+  // Puts the window on the screen, in front of the others.
+  virtual void Show() = 0;
+};
+
+}  // namespace quill::host
