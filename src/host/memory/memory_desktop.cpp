@@ -1,0 +1,42 @@
+#include "host/memory/memory_desktop.h"
+
+namespace quill::host {
+namespace {
+
+// The ids of the pictures stored with the program, both ends included.
+constexpr std::int32_t kFirstPicture = 168;
+constexpr std::int32_t kLastPicture = 173;
+
+constexpr double kMostPixels = 64.0 * 1024 * 1024;
+
+}  // namespace
+
+std::shared_ptr<FolderItem> MemoryDesktop::ApplicationFolder() {
+  return no_application_folder ? nullptr : files.Item("");
+}
+
+std::shared_ptr<Picture> MemoryDesktop::NewPicture(std::int32_t width, std::int32_t height,
+                                                   std::int32_t /*depth*/) {
+  const bool too_large = static_cast<double>(width) * height > kMostPixels;
+  if (out_of_pictures || width <= 0 || height <= 0 || too_large) return nullptr;
+  auto picture = std::make_shared<MemoryPicture>(metrics, width, height);
+  picture->drawable = !undrawable_pictures;
+  return picture;
+}
+
+std::shared_ptr<Picture> MemoryDesktop::StoredPicture(std::int32_t id) {
+  if (id < kFirstPicture || id > kLastPicture) return nullptr;
+  pictures_read.push_back(id);
+  return std::make_shared<MemoryPicture>(metrics, 640, 480, "#" + std::to_string(id));
+}
+
+std::unique_ptr<WindowPeer> MemoryDesktop::NewWindow(const WindowStyle& style) {
+  auto screen = std::make_shared<MemoryScreen>();
+  screen->style = style;
+  screen->frame.width = style.width;
+  screen->frame.height = style.height;
+  screens.push_back(screen);
+  return std::make_unique<MemoryWindow>(std::move(screen), metrics);
+}
+
+}  // namespace quill::host

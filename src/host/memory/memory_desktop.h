@@ -1,0 +1,47 @@
+// The desktop in memory. It observes: it keeps what was drawn, shown, said and
+// asked, sets the metrics of text, and fails where a test wants it to.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/desktop.h"
+#include "host/memory/memory_files.h"
+#include "host/memory/memory_window.h"
+
+namespace quill::host {
+
+class MemoryDesktop final : public Desktop {
+ public:
+  void MsgBox(const std::string& text) override { messages.push_back(text); }
+  void Quit(std::int32_t code) override { quit_code = code; }
+  std::shared_ptr<FolderItem> ApplicationFolder() override;
+  std::string LongVersion() override { return version; }
+  FixedMetrics& Metrics() override { return metrics; }
+  std::shared_ptr<Picture> NewPicture(std::int32_t width, std::int32_t height, std::int32_t depth) override;
+  std::shared_ptr<Picture> StoredPicture(std::int32_t id) override;
+  std::unique_ptr<WindowPeer> NewWindow(const WindowStyle& style) override;
+
+  // The message boxes shown so far.
+  std::vector<std::string> messages;
+  std::optional<std::int32_t> quit_code;
+
+  // The folder that holds the bundle is the root of these files.
+  MemoryFiles files;
+  std::string version = "1.2.3";
+  FixedMetrics metrics;
+
+  // Windows in the order they were made, closed ones included.
+  std::vector<std::shared_ptr<MemoryScreen>> screens;
+
+  // Ids of the stored pictures that were read, in order.
+  std::vector<std::int32_t> pictures_read;
+
+  bool out_of_pictures = false;      // `NewPicture` gives null
+  bool undrawable_pictures = false;  // new pictures have no pen
+  bool no_application_folder = false;
+};
+
+}  // namespace quill::host

@@ -1,0 +1,63 @@
+#include "host/memory/memory_files.h"
+
+#include <utility>
+
+namespace quill::host {
+namespace {
+
+class MemoryStream final : public BinaryStream {
+ public:
+  explicit MemoryStream(std::string bytes) : bytes_(std::move(bytes)) {}
+
+  std::uint64_t Length() const override { return bytes_.size(); }
+
+  std::string Read(std::uint64_t count) override {
+    std::string part = bytes_.substr(at_, count);
+    at_ += part.size();
+    return part;
+  }
+
+  void Close() override { at_ = bytes_.size(); }
+
+ private:
+  std::string bytes_;
+  std::size_t at_ = 0;
+};
+
+}  // namespace
+
+class MemoryItem final : public FolderItem {
+ public:
+  MemoryItem(const MemoryFiles& files, std::string path) : files_(files), path_(std::move(path)) {}
+
+  std::string Name() const override { return path_.substr(path_.rfind('/') + 1); }
+
+  bool Exists() const override {
+    if (path_.empty() || files_.files_.contains(path_)) return true;
+    const std::string folder = path_ + "/";
+    const auto next = files_.files_.lower_bound(folder);
+    return next != files_.files_.end() && next->first.starts_with(folder);
+  }
+
+  std::shared_ptr<FolderItem> Child(const std::string& name) const override {
+    if (!IsPlainName(name)) return nullptr;
+    return files_.Item(path_.empty() ? name : path_ + "/" + name);
+  }
+
+  std::unique_ptr<BinaryStream> OpenAsBinaryFile() const override {
+    const auto file = files_.files_.find(path_);
+    if (file == files_.files_.end() || files_.locked_.contains(path_)) return nullptr;
+    files_.opened_.push_back(path_);
+    return std::make_unique<MemoryStream>(file->second);
+  }
+
+ private:
+  const MemoryFiles& files_;
+  std::string path_;
+};
+
+std::shared_ptr<FolderItem> MemoryFiles::Item(const std::string& path) const {
+  return std::make_shared<MemoryItem>(*this, path);
+}
+
+}  // namespace quill::host

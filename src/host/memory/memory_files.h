@@ -1,0 +1,39 @@
+// Files and folders in memory, for tests and for content that never was a file.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "host/files.h"
+
+namespace quill::host {
+
+// A tree of files by path ("Quillmere.app/Contents/Data/initQMR.xml"). Folders
+// are there as soon as a path leads through them.
+class MemoryFiles {
+ public:
+  void AddFile(const std::string& path, std::string bytes) { files_[path] = std::move(bytes); }
+  void Remove(const std::string& path) { files_.erase(path); }
+
+  // From now on the file at `path` exists but can't be opened.
+  void Lock(const std::string& path) { locked_.insert(path); }
+
+  // The item at `path`, the root for the empty one. It sees later changes and
+  // must not outlive this object.
+  std::shared_ptr<FolderItem> Item(const std::string& path) const;
+
+  // Paths that were opened, in order.
+  const std::vector<std::string>& Opened() const { return opened_; }
+
+ private:
+  friend class MemoryItem;
+
+  std::map<std::string, std::string> files_;
+  std::set<std::string> locked_;
+  mutable std::vector<std::string> opened_;
+};
+
+}  // namespace quill::host

@@ -1,0 +1,97 @@
+// Windows without a screen: they know what they would show, and take the mouse
+// from a test.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/controls.h"
+#include "host/memory/memory_graphics.h"
+
+namespace quill::host {
+
+class MemoryWindow;
+
+// What a control would show. Kept by the window as long as the control lives.
+struct MemoryControl {
+  enum class Kind { kCanvas, kText, kCheckBox };
+
+  Kind kind = Kind::kCanvas;
+  const MemoryControl* parent = nullptr;  // null: the window itself
+  Rect frame;                             // in its parent
+  bool visible = true;
+  bool enabled = true;
+  std::string text;  // of a text or check box; the label of a canvas
+  bool checked = false;
+  Canvas* canvas = nullptr;
+  CheckBox* box = nullptr;
+  std::shared_ptr<Picture> backdrop;
+  std::unique_ptr<RecordingGraphics> graphics;
+};
+
+// What a test may do with an open window. The window itself belongs to the
+// program.
+class MemoryScreen {
+ public:
+  Rect frame = {100, 50, 0, 0};  // where the desktop put the window
+  WindowStyle style;
+  bool shown = false;
+  bool closed = false;
+
+  // Controls in the order they were made, the last on top, whoever their parent
+  // is.
+  std::vector<MemoryControl*> controls;
+
+  // Raises the Paint event of every canvas that is visible, as a desktop would after a
+  // change.
+  void Paint();
+
+  // Moves the mouse to that point of the window, from wherever it was.
+  void MoveMouse(std::int32_t x, std::int32_t y);
+  void Press();
+  void Release();
+  void Click(std::int32_t x, std::int32_t y);
+
+  // Clicks in the middle of the visible canvas with that label; false if there
+  // is none.
+  bool ClickLabel(const std::string& label);
+
+  // A line for each visible control with a label or text, in order:
+  //   button "Exit" 587,437 40x24
+  //   text "Title" 77,4 494x27
+  std::string Dump() const;
+
+ private:
+  friend class MemoryPeerBase;
+
+  // Topmost control that the mouse meets at that point, null if there is none
+  // or it isn't enabled.
+  MemoryControl* At(std::int32_t x, std::int32_t y) const;
+  void Forget(const MemoryControl& control);
+
+  MemoryControl* under_mouse_ = nullptr;
+  MemoryControl* held_ = nullptr;
+  std::int32_t x_ = -1;
+  std::int32_t y_ = -1;
+};
+
+class MemoryWindow final : public WindowPeer {
+ public:
+  MemoryWindow(std::shared_ptr<MemoryScreen> screen, FontMetrics& metrics)
+      : screen_(std::move(screen)), metrics_(metrics) {}
+  ~MemoryWindow() override { screen_->closed = true; }
+
+  std::unique_ptr<CanvasPeer> NewCanvas(Canvas& canvas, ControlPeer* parent) override;
+  std::unique_ptr<StaticTextPeer> NewStaticText(const TextStyle& style, ControlPeer* parent) override;
+  std::unique_ptr<CheckBoxPeer> NewCheckBox(CheckBox& box, const std::string& caption, const TextFace& face,
+                                            ControlPeer* parent) override;
+  Rect Frame() const override { return screen_->frame; }
+  void Show() override { screen_->shown = true; }
+
+ private:
+  std::shared_ptr<MemoryScreen> screen_;
+  FontMetrics& metrics_;
+};
+
+}  // namespace quill::host
