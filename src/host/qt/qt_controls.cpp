@@ -1,0 +1,124 @@
+#include "host/qt/qt_controls.h"
+
+#include <QCheckBox>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <cmath>
+
+namespace quill::host {
+namespace {
+
+// Gives the toolkit's widget to those who only know a control's peer.
+class WidgetHolder {
+ public:
+  virtual ~WidgetHolder() = default;
+  virtual QWidget* Widget() = 0;
+};
+
+// What the peers of all kinds of control share.
+template <typename Interface, typename Shown>
+class QtPeer : public Interface, public WidgetHolder {
+ public:
+  explicit QtPeer(Shown* widget) : widget_(widget) {}
+  ~QtPeer() override {
+    widget_->hide();
+    widget_->deleteLater();
+  }
+
+  void Place(const Rect& frame) override { widget_->setGeometry(ToQRect(frame)); }
+  void SetVisible(bool visible) override { widget_->setVisible(visible); }
+  void SetEnabled(bool enabled) override { widget_->setEnabled(enabled); }
+  QWidget* Widget() override { return widget_; }
+
+ protected:
+  Shown* widget_;  // owned by its parent widget
+};
+
+class QtCanvas final : public QtPeer<CanvasPeer, CanvasWidget> {
+ public:
+  using QtPeer::QtPeer;
+  ~QtCanvas() override { widget_->Retire(); }
+
+  void Place(const Rect& frame) override { widget_->Place(frame); }
+  void SetBackdrop(const std::shared_ptr<Picture>& backdrop) override { widget_->SetBackdrop(backdrop); }
+  Graphics& GetGraphics() override { return widget_->GetGraphics(); }
+  void SetLabel(const std::string& label) override { widget_->SetLabel(label); }
+};
+
+class QtStaticText final : public QtPeer<StaticTextPeer, TextWidget> {
+ public:
+  using QtPeer::QtPeer;
+  void SetText(const std::string& text) override { widget_->SetText(text); }
+};
+
+class QtCheckBox final : public QtPeer<CheckBoxPeer, QCheckBox> {
+ public:
+  using QtPeer::QtPeer;
+  void SetValue(bool value) override {
+    const QSignalBlocker quiet(widget_);
+    widget_->setChecked(value);
+  }
+};
+
+// An ampersand in a caption is an ampersand.
+QString Caption(const std::string& caption) { return LineOfText(caption).replace('&', QStringLiteral("&&")); }
+
+}  // namespace
+
+TextWidget::TextWidget(const TextStyle& style, QtMetrics& metrics, QWidget* parent)
+    : QWidget(parent), style_(style), metrics_(metrics) {
+  setFocusPolicy(Qt::NoFocus);
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void TextWidget::SetText(const std::string& text) {
+  if (text == text_) return;
+  text_ = text;
+  setAccessibleName(LineOfText(text));
+  update();
+}
+
+// A line too long for its frame loses its end, whichever way it is aligned.
+double TextWidget::LeftEnd() const {
+  const double room = std::max(0.0, width() - metrics_.StringWidth(style_.face, text_));
+  switch (style_.align) {
+    case TextAlign::kLeft:
+      return 0;
+    case TextAlign::kCenter:
+      return std::floor(room / 2);
+    case TextAlign::kRight:
+      return std::floor(room);
+  }
+  return 0;
+}
+
+void TextWidget::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  PaintLine(painter, metrics_, style_.face, style_.color, text_,
+            QPointF(LeftEnd(), metrics_.BaseLine(style_.face)));
+}
+
+std::unique_ptr<CanvasPeer> NewCanvasPeer(Canvas& canvas, QtMetrics& metrics, QWidget& parent) {
+  return std::make_unique<QtCanvas>(new CanvasWidget(canvas, metrics, &parent));
+}
+
+std::unique_ptr<StaticTextPeer> NewTextPeer(const TextStyle& style, QtMetrics& metrics, QWidget& parent) {
+  return std::make_unique<QtStaticText>(new TextWidget(style, metrics, &parent));
+}
+
+std::unique_ptr<CheckBoxPeer> NewCheckBoxPeer(CheckBox& box, const std::string& caption, const TextFace& face,
+                                              QtMetrics& metrics, QWidget& parent) {
+  auto* const widget = new QCheckBox(Caption(caption), &parent);
+  widget->setFocusPolicy(Qt::NoFocus);
+  widget->setFont(metrics.FontOf(face));
+  QObject::connect(widget, &QCheckBox::toggled, widget, [&box](bool value) { box.Toggled(value); });
+  return std::make_unique<QtCheckBox>(widget);
+}
+
+QWidget* WidgetOf(ControlPeer* peer) {
+  auto* const holder = dynamic_cast<WidgetHolder*>(peer);
+  return holder == nullptr ? nullptr : holder->Widget();
+}
+
+}  // namespace quill::host

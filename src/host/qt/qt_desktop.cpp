@@ -1,0 +1,183 @@
+#include "host/qt/qt_desktop.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <iostream>
+#include <optional>
+#include <utility>
+
+#include "host/application.h"
+#include "host/controls.h"
+#include "host/disk_files.h"
+#include "host/qt/qt_accessible.h"
+#include "host/qt/qt_application.h"
+#include "host/qt/qt_graphics.h"
+#include "host/qt/qt_text.h"
+#include "host/qt/qt_window.h"
+#include "host/text.h"
+#include "host/text_converter.h"
+
+// The pictures lie in a static library, whose resources nobody registers
+// unasked. The macro must stand outside every namespace.
+static void RegisterPictures() { Q_INIT_RESOURCE(pictures); }
+
+namespace quill::host {
+namespace {
+
+constexpr const char* kProgramName = "Quillmere";
+constexpr const char* kBundleName = "Quillmere.app";
+constexpr std::uint64_t kLongestVersion = 256;
+
+bool IsSet(const char* variable) {
+  const char* const value = std::getenv(variable);
+  return value != nullptr && *value != '\0';
+}
+
+void ShowBox(const QString& text) {
+  QMessageBox box(QApplication::activeWindow());
+  box.setWindowTitle(QLatin1String(kProgramName));
+  box.setIcon(QMessageBox::Information);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(text);
+  box.setStandardButtons(QMessageBox::Ok);
+  box.exec();
+}
+
+// Tells the toolkit what it reads while its application object is being made.
+QtDesktop::Options Prepared(QtDesktop::Options options) {
+  if (options.screen == QtDesktop::Screen::kNone) qputenv("QT_QPA_PLATFORM", "offscreen");
+  return options;
+}
+
+std::filesystem::path ExecutableFolder() { return QCoreApplication::applicationDirPath().toStdString(); }
+
+}  // namespace
+
+bool HasDisplay() {
+  constexpr std::array kVariables = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+  return std::any_of(kVariables.begin(), kVariables.end(), IsSet);
+}
+
+// The toolkit's application object goes last, the metrics hold its fonts.
+struct QtDesktop::Parts {
+  Parts(int& argc, char** argv, Options given)
+      : options(Prepared(std::move(given))),
+        toolkit(argc, argv, [this](const std::string& what) { Fail(what); }) {
+    RegisterPictures();
+    QApplication::setApplicationName(QLatin1String(kProgramName));
+    QApplication::setQuitOnLastWindowClosed(false);
+    AnnounceControls();
+  }
+
+  void Quit(int code);
+  void Fail(const std::string& what);
+  void Say(const std::string& text) const;
+  void TellFailure(const std::string& text);
+
+  Options options;
+  GuardedApplication toolkit;
+  QtMetrics metrics;
+  std::optional<int> quit_code;
+  bool has_commands = false;
+  bool failed = false;
+};
+
+void QtDesktop::Parts::Quit(int code) {
+  if (!quit_code) quit_code = code;
+  QCoreApplication::exit(*quit_code);
+}
+
+void QtDesktop::Parts::Say(const std::string& text) const {
+  if (options.messages == Messages::kStandardError) {
+    std::cerr << MacRomanToUtf8(text) << std::endl;
+  } else {
+    ShowBox(Message(text));
+  }
+}
+
+// A box may not be opened from within a painting, nor wherever else the
+// exception came from; the loop opens it next. While it stands more may fail,
+// which adds nothing.
+void QtDesktop::Parts::Fail(const std::string& what) {
+  if (std::exchange(failed, true)) return;
+  const std::string text = std::string(kProgramName) + " has to stop: " + what;
+  std::cerr << text << std::endl;
+  QMetaObject::invokeMethod(
+      &toolkit, [this, text] { TellFailure(text); }, Qt::QueuedConnection);
+}
+
+void QtDesktop::Parts::TellFailure(const std::string& text) {
+  if (options.messages == Messages::kBox && !quit_code) ShowBox(Message(text));
+  Quit(1);
+}
+
+QtDesktop::QtDesktop(int& argc, char** argv) : QtDesktop(argc, argv, Options()) {}
+
+QtDesktop::QtDesktop(int& argc, char** argv, Options options)
+    : parts_(std::make_unique<Parts>(argc, argv, std::move(options))) {}
+
+// Widgets of controls that have gone wait for a turn of the loop, which may
+// not come any more.
+QtDesktop::~QtDesktop() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+int QtDesktop::Run(Application& application) {
+  parts_->has_commands = application.GetMenuBar() != nullptr;
+  if (parts_->quit_code) return *parts_->quit_code;
+  return QApplication::exec();
+}
+
+bool QtDesktop::SaveScreen(Window& window, const std::filesystem::path& path) {
+  return dynamic_cast<QtWindow&>(window.Peer()).Save(path);
+}
+
+void QtDesktop::MsgBox(const std::string& text) { parts_->Say(text); }
+
+void QtDesktop::Quit(std::int32_t code) { parts_->Quit(code); }
+
+std::shared_ptr<FolderItem> QtDesktop::ApplicationFolder() {
+  const std::filesystem::path& given = parts_->options.application_folder;
+  return DiskItem(given.empty() ? ExecutableFolder() : given);
+}
+
+std::string QtDesktop::LongVersion() {
+  const auto file = ApplicationFolder()->Child(kBundleName)->Child("Contents")->Child("Version");
+  const auto stream = file->OpenAsBinaryFile();
+  return stream ? std::string(Trim(stream->Read(kLongestVersion))) : std::string();
+}
+
+FontMetrics& QtDesktop::Metrics() { return parts_->metrics; }
+
+std::shared_ptr<Picture> QtDesktop::NewPicture(std::int32_t width, std::int32_t height,
+                                               std::int32_t /*depth*/) {
+  QImage image = NewImage(width, height, Qt::black);
+  if (image.isNull()) return nullptr;
+  return std::make_shared<QtPicture>(parts_->metrics, std::move(image), width, height);
+}
+
+std::shared_ptr<Picture> QtDesktop::StoredPicture(std::int32_t id) {
+  const QString path = QStringLiteral(":/pictures/%1.svg").arg(id);
+  QSvgRenderer drawing;
+  if (!QFile::exists(path) || !drawing.load(path)) return nullptr;
+  const QSize size = drawing.defaultSize();
+  QImage image = NewImage(size.width(), size.height(), Qt::transparent);
+  if (image.isNull()) return nullptr;
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  drawing.render(&painter, QRectF(QPointF(0, 0), size));
+  painter.end();
+  return std::make_shared<QtPicture>(parts_->metrics, std::move(image), size.width(), size.height());
+}
+
+std::unique_ptr<WindowPeer> QtDesktop::NewWindow(const WindowStyle& style) {
+  return std::make_unique<QtWindow>(style, parts_->metrics, [this] {
+    if (parts_->has_commands) Quit(0);
+  });
+}
+
+}  // namespace quill::host
