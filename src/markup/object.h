@@ -1,0 +1,41 @@
+// What every object of a markup tree answers: elements, attributes, text and
+// the rest. Objects are shared by reference and know no parent, so a part of a
+// tree may be kept, or hung up elsewhere, when its tree is gone.
+#pragma once
+
+#include <string>
+
+namespace quill::markup {
+
+class zkXMLElement;
+
+// A carrier of text.
+using Variant = std::string;
+
+class zkXMLObject {
+ public:
+  virtual ~zkXMLObject() = default;
+  zkXMLObject(const zkXMLObject&) = delete;
+  zkXMLObject& operator=(const zkXMLObject&) = delete;
+
+  // The object's name, or the word for its kind where it has none.
+  virtual std::string GetName() const = 0;
+
+  // The object's text in plain form; empty where it has none of its own.
+  virtual Variant GetData() const = 0;
+
+  // Replaces the text. No effect where there is none.
+  virtual void SetData(Variant value) = 0;
+
+  // Renames the object. No effect where there is no name.
+  virtual void SetName(std::string name) = 0;
+
+  // This object if it is an element, else null: the class test of walks, which
+  // ask it of every entry.
+  virtual zkXMLElement* asElement() { return nullptr; }
+
+ protected:
+  zkXMLObject() = default;
+};
+
+}  // namespace quill::markup

@@ -1,0 +1,44 @@
+// Functions on text that the markup classes share: white space, and the two
+// forms of a text. In the program it is Mac Roman with plain characters; in an
+// XML file it is ISO 8859-1 with "&amp;", "&lt;", "&gt;" and decimal references.
+//
+// White space is the blank, the tab, the line feed and the carriage return.
+// Positions count from 1, and a search that finds nothing gives 0. The
+// converters are shared by all callers: one thread only.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "host/text_converter.h"
+
+namespace quill::markup {
+
+// Whether `text` is one white space character.
+bool IsWhiteSpaceChar(std::string_view text);
+
+// Position of the first white space character, of the first other character,
+// at or behind position `start` (from 1).
+std::size_t WhiteSpaceInStr(std::string_view text, std::size_t start = 1);
+std::size_t NonWhiteSpaceInStr(std::string_view text, std::size_t start = 1);
+
+// Program text to file text. Only a text with a character outside ASCII gets
+// numeric references, and then for all its control characters too. Throws
+// `NilObjectException` if the machine has no converter for the two encodings.
+std::string EncodeXMLText(std::string_view text);
+
+// File text to program text, one layer of escapes; "&apos;" and "&quot;" stay.
+// Throws as `EncodeXMLText` does.
+std::string DecodeXMLText(std::string text);
+
+// Sets the encodings of file and program for both functions above, which do it
+// themselves at the first call. Throws `NilObjectException` if there is no
+// converter between the two.
+void SetXMLEncodings(host::TextEncoding file, host::TextEncoding internal);
+
+// Every `what` in `text` by the character `with`, from left to right and in
+// place; what was put in is not looked at again. `what` must not be empty.
+void ReplaceByCharacter(std::string& text, std::string_view what, char with);
+
+}  // namespace quill::markup
