@@ -1,0 +1,62 @@
+// The application object: what every window needs to know. There is one, made
+// at start-up and kept to the end; whoever needs it is handed a reference.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "app/pictures.h"
+#include "content/document.h"
+#include "host/application.h"
+
+namespace quill::app {
+
+class App final : public host::Application {
+ public:
+  // Slots of the file name tables. Those behind the last mode stay empty.
+  static constexpr std::size_t kSlots = 11;
+
+  void Event_Open() override { Init(); }
+
+  // Fills the file name tables and the settings of text; clears `TestMode`.
+  void Init();
+
+  // The column (from 1) that field 0 to 5 of a page's text stands in; 0 for any
+  // other field. Fields count through the layouts: 0 is the one column, 1 and 2
+  // the two, 3 to 5 the three.
+  static std::int32_t GetColumnFromField(std::int32_t field);
+
+  // The field of column `column` (from 1) in a page of `columns` columns; 0 for
+  // a column outside the layout and for a layout that doesn't exist.
+  static std::int32_t GetFieldFromColumn(std::int32_t column, std::int32_t columns);
+
+  // The look and the files of the current mode.
+  const Mode& CurrentMode() const { return kModes.at(static_cast<std::size_t>(mode)); }
+
+  // A place for a breakpoint: the glossary passes it before it draws.
+  void debugmethod() {}
+
+  // Announces a step in a message box where `TestMode` is set.
+  void Trace(const std::string& step) const;
+
+  // The documents of the current mode: its pages and its glossary entries. Null
+  // until the first load; replaced, never changed, by every later one.
+  std::shared_ptr<content::Document> doc;
+  std::shared_ptr<content::Document> glossary;
+
+  bool TestMode = false;
+
+  // Content and glossary file of each mode.
+  std::array<std::string, kSlots> QMRFileName;
+  std::array<std::string, kSlots> GlossaryFileName;
+
+  std::int32_t mode = 0;              // 0 to 5, an index of `kModes`
+  std::int32_t fontsize = 0;          // points, of page text, glossary and links
+  std::int32_t fontheightoffset = 0;  // pixels from a link button's top to its base line
+
+  Pictures pictures;
+};
+
+}  // namespace quill::app
