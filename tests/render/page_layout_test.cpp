@@ -1,0 +1,201 @@
+#include "render/page_layout.h"
+
+#include <gtest/gtest.h>
+
+#include "host/memory/memory_graphics.h"
+#include "support/content_xml.h"
+
+namespace quill::render {
+namespace {
+
+using tests::TestLink;
+
+content::Page MakePage(const std::vector<std::string>& columns, const std::vector<TestLink>& links) {
+  content::Page page;
+  if (columns.size() == 1) page.SetText(columns[0]);
+  if (columns.size() == 2) page.SetText(columns[0], columns[1]);
+  if (columns.size() == 3) page.SetText(columns[0], columns[1], columns[2]);
+  for (const TestLink& link : links) {
+    page.AddLink(host::Str(link.offset), host::Str(link.length), link.target, link.type, link.column);
+  }
+  return page;
+}
+
+LayoutSettings Settings(std::int32_t columns) {
+  LayoutSettings settings;
+  settings.geometry.TopMargin = 60;
+  settings.geometry.SetMargins(columns, 640);
+  settings.face.TextSize = 12;
+  settings.button_rise = 15;
+  return settings;
+}
+
+// Every character is 10 wide, in bold 12; a line is 15 high. One column runs
+// from 30 to 610, so that it holds 58 characters with their blanks.
+PageLayout LayOut(const std::vector<std::string>& columns, const std::vector<TestLink>& links,
+                  LayoutSettings settings) {
+  host::FixedMetrics metrics;
+  metrics.bold_extra = 2;
+  return LayOutPage(MakePage(columns, links), settings, metrics);
+}
+
+struct Case {
+  std::string story;
+  std::vector<std::string> columns;
+  std::vector<TestLink> links;
+  std::string expected;
+};
+
+std::string Wide(std::size_t length) { return std::string(length, 'w'); }
+
+const std::vector<Case> kCases = {
+    {"an empty column draws nothing", {""}, {{0, 1, "1"}}, ""},
+    {"a tab indents its paragraph and counts, a sentence ends with two blanks",
+     {"No now.\n\tSee it!"},
+     {{14, 2, "1", 2}, {10, 3, "1", 2}},
+     "No 30,75\nnow. 60,75\n"
+     "button 1 \"See\" 55,90\nbutton 0 \"it!\" 95,90\n"},
+    {"the gap behind a sentence is two blanks, but not behind a bracket",
+     {"a. b.) c"},
+     {},
+     "a. 30,75\nb.) 70,75\nc 110,75\n"},
+    {"two blanks part words by one, and only one counts",
+     {"a  b"},
+     {{2, 1, "1", 2}},
+     "a 30,75\nbutton 0 \"b\" 50,60\n"},
+    {"an empty paragraph moves the pen by two lines and counts one",
+     {"\nb"},
+     {{1, 1, "1", 2}},
+     "button 0 \"b\" 30,90\n"},
+    {"a word that ends on the margin with its blank stays",
+     {Wide(54) + " " + "ab x"},
+     {},
+     Wide(54) + " 30,75\nab 580,75\nx 30,97\n"},
+    {"one more pixel moves it", {Wide(54) + " abc x"}, {}, Wide(54) + " 30,75\nabc 30,97\nx 70,97\n"},
+    {"a word too wide for its column leaves a line empty and runs on",
+     {Wide(60) + " x"},
+     {},
+     Wide(60) + " 30,97\nx 30,119\n"},
+    {"the gap of a sentence counts for the break of the next word",
+     {Wide(54) + ". x"},
+     {},
+     Wide(54) + ". 30,75\nx 30,97\n"},
+    {"wrapped lines of a tabbed paragraph stay indented, the next starts at the margin",
+     {"\t" + Wide(50) + " abcdefg\nx"},
+     {},
+     Wide(50) + " 55,75\nabcdefg 55,97\nx 30,127\n"},
+    {"a second tab moves the margin again and the pen back to it", {"\ta \tb"}, {}, "a 55,75\nb 80,75\n"},
+    {"of two tabs at a word's head one is removed", {"\t\ta"}, {}, "\ta 55,75\n"},
+    {"a tab alone takes a blank's width and counts two",
+     {"\t b"},
+     {{2, 1, "1", 2}},
+     " 55,75\nbutton 0 \"b\" 65,60\n"},
+    {"a carriage return is no line end", {"a\rb"}, {}, "a\rb 30,75\n"},
+    {"columns start at the top whatever the one before held",
+     {"a\nb", "c", "\nd"},
+     {},
+     "a 30,75\nb 30,105\nc 223,75\nd 416,105\n"},
+    {"a link takes whole fields until it is long enough",
+     {"a bc def"},
+     {{0, 3, "1", 2}},
+     "bc 50,75\ndef 80,75\nbutton 0 \"a bc\" 30,60\n"},
+    {"behind the end of its paragraph a link takes blanks",
+     {"See it\nx"},
+     {{0, 8, "1", 2}},
+     "it 70,75\nx 30,105\nbutton 0 \"See it  \" 30,60\n"},
+    {"a double blank inside a link is a field",
+     {"a  b"},
+     {{0, 3, "1", 2}},
+     "b 50,75\nbutton 0 \"a  b\" 30,60\n"},
+    {"a link of length 0 takes its first word",
+     {"ab cd"},
+     {{0, 0, "1", 2}},
+     "cd 60,75\nbutton 0 \"ab\" 30,60\n"},
+    {"of two links on a word the earlier in the list counts",
+     {"a"},
+     {{0, 1, "1", 1}, {0, 1, "2", 2}},
+     "button 0 \"a\" 30,60\n"},
+    {"each column has its own offsets",
+     {"a", "b"},
+     {{0, 1, "1", 2, 2}, {0, 1, "1", 2, 1}},
+     "button 1 \"a\" 30,60\nbutton 0 \"b\" 320,60\n"},
+    {"offsets inside a word, behind the text and in no column find nothing",
+     {"ab"},
+     {{1, 1, "1"}, {3, 1, "1"}, {0, 1, "1", 0, 0}, {0, 1, "1", 0, 4}},
+     "ab 30,75\n"},
+    {"bold still holds for the advance and for the next word's break",
+     {"aa bb cc"},
+     {{0, 5, "", 4}},
+     "aa 30,75 bold\nbb 66,75 bold\ncc 102,75\nrun 0 \"aa bb\" 30,60\n"},
+    {"italic doesn't", {"aa bb"}, {{0, 2, "", 3}}, "aa 30,75 italic\nbb 60,75\nrun 0 \"aa\" 30,60\n"},
+    {"a bold word's blank breaks the line of the next",
+     {Wide(44) + " " + "b x y"},
+     {{45, 1, "", 4}},
+     Wide(44) + " 30,75\nb 480,75 bold\nx 504,75\ny 524,75\nrun 0 \"b\" 480,60\n"},
+    {"a run that outruns its paragraph goes on over the next",
+     {"a\nb c d"},
+     {{0, 3, "", 6}},
+     "a 30,75 underline\nb 30,105 underline\nc 50,105 underline\nd 70,105\nrun 0 \"a  \" 30,60\n"},
+    {"an empty field in a run lets it reach one word further",
+     {"a  b c"},
+     {{0, 4, "", 3}},
+     "a 30,75 italic\nb 50,75 italic\nc 70,75 italic\nrun 0 \"a  b\" 30,60\n"},
+    {"a button ends the run under way",
+     {"a b c"},
+     {{0, 5, "", 3}, {2, 1, "1", 0}},
+     "a 30,75 italic\nc 70,75\nrun 0 \"a b c\" 30,60\nbutton 1 \"b\" 50,60\n"},
+    {"a run ends with its column",
+     {"a", "b"},
+     {{0, 9, "", 3}},
+     "a 30,75 italic\nb 320,75\nrun 0 \"a        \" 30,60\n"},
+    {"a negative length takes the first word",
+     {"ab cd"},
+     {{0, -5, "1", 9}},
+     "cd 60,75\nbutton 0 \"ab\" 30,60\n"},
+};
+
+TEST(PageLayoutTest, PlacesWordsAndLinks) {
+  for (const Case& row : kCases) {
+    const auto columns = static_cast<std::int32_t>(row.columns.size());
+    EXPECT_EQ(LayOut(row.columns, row.links, Settings(columns)).Dump(), row.expected) << row.story;
+  }
+}
+
+TEST(PageLayoutTest, SetsTheIndexClose) {
+  LayoutSettings settings = Settings(1);
+  settings.paragraph_step = 0.35;
+  EXPECT_EQ(LayOut({"a\nb"}, {}, settings).Dump(), "a 30,75\nb 30,95\n");
+}
+
+TEST(PageLayoutTest, LabelsPlainWordsAndButtonsButNotRuns) {
+  LayoutSettings settings = Settings(1);
+  settings.show_offsets = true;
+  EXPECT_EQ(LayOut({"a b c"}, {{2, 1, "", 4}, {4, 1, "1", 0}}, settings).Dump(),
+            "a 30,75\n0 30,86\nb 50,75 bold\n4 74,86 bold\nrun 0 \"b\" 50,60\nbutton 1 \"c\" 74,60\n");
+}
+
+TEST(PageLayoutTest, DrawsTheWordsOfLinksBeyondThePoolPlain) {
+  std::vector<TestLink> links(kLinkButtons, TestLink{-1, 1, "1"});
+  links[60] = {0, 1, "1", 2};
+  links.push_back({2, 3, "1", 3});
+  EXPECT_EQ(LayOut({"a b c"}, links, Settings(1)).Dump(), "b 50,75\nc 70,75\nbutton 60 \"a\" 30,60\n");
+}
+
+// Offsets and lengths come from files, and a length may ask for a text that no
+// machine can hold.
+TEST(PageLayoutTest, HostileNumbersSaturate) {
+  content::Page page = MakePage({"a b\nc"}, {});
+  page.AddLink("0.5", "1", "1", 2, 1);
+  page.AddLink("1e999", "1", "1", 2, 1);
+  page.AddLink("0", "1e999", "1", 3, 1);
+  host::FixedMetrics metrics;
+  metrics.line_height = 2000000000;
+  const PageLayout layout = LayOutPage(page, Settings(1), metrics);
+  ASSERT_EQ(layout.links.size(), 1U);
+  EXPECT_LT(layout.links[0].text.size(), 10000U);
+  EXPECT_TRUE(layout.words[2].italic) << "the run goes on over the next paragraph";
+  EXPECT_EQ(layout.words[2].y, 2147483647);
+}
+
+}  // namespace
+}  // namespace quill::render
