@@ -1,0 +1,109 @@
+// The viewer: the program's one main window, fixed in size, which shows a page
+// at a time. It owns all state of navigation: the page on show, the trail, the
+// two open content files and the pools of buttons, which are made once and
+// serve every page.
+//
+// A request to see a page goes through `ShowPage`; a page is drawn from nothing
+// every time.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/app.h"
+#include "content/xml_file.h"
+#include "host/controls.h"
+#include "nav/history.h"
+#include "nav/text_button.h"
+#include "render/page_geometry.h"
+#include "render/page_layout.h"
+
+namespace quill::nav {
+
+// The windows that a link can open beside the viewer. They stand above this
+// floor; who joins the parts hands both in.
+struct SideWindows {
+  std::function<void(const std::string& page)> show_glossary;
+  std::function<void()> show_notes;
+};
+
+class DisplayWindow final : public host::Window, private FontSource {
+ public:
+  // `app` must outlive the window. Nothing is loaded and no page drawn before
+  // `Open`.
+  explicit DisplayWindow(app::App& app, SideWindows side_windows);
+
+  // Shows a page of the current mode, given by its number as decimal text, and
+  // records it in the trail unless it is page 0 or the mode the opening one.
+  void ShowPage(const std::string& page);
+
+  // Enters a mode and shows its first page. `mode` must be one (`app::IsMode`).
+  void ChooseMode(std::int32_t mode);
+
+  // Name of the text face of pages and buttons; empty, which is the desktop's.
+  std::string GetFont() const override { return Font; }
+
+  // What the viewer shows, as a few lines of text: mode, page, title, trail,
+  // words and buttons in use.
+  std::string Dump() const;
+
+  // Writes each word's offset below it from the next page on: an author's help.
+  void ShowOffsets(bool show) { NumberCB.SetValue(show); }
+
+ private:
+  void Event_Open() override;
+  void Init();
+
+  // Files of a mode.
+  void SetFile();
+  void OpenFiles();
+
+  // Drawing a page.
+  void DrawPage(const std::string& page_number);
+  void InitializeCanvas();
+  void InitLinkButtons();
+  render::LayoutSettings SettingsFor(const content::Page& page, const std::string& page_number);
+  void DrawText(const content::Page& page, const std::string& page_number);
+  void PlaceLink(const render::PlacedLink& placed, const content::Link& link);
+  void ShowBackButtons();
+
+  // What pushing a button does.
+  void LinkButton_IsPushed(TextButton& button);
+  void ExitPB_IsPushed();
+  void BackButton_IsPushed(TextButton& button);
+  void PushInOpeningMode(const TextButton& button);
+
+  TextButton& AddButton(const host::Rect& frame);
+
+  app::App& app_;
+  SideWindows side_windows_;
+  std::string Font;  // the controls ask for it as they are made
+
+  // The controls, in the order they are made. Each but the first lies on it.
+  host::Canvas& Stext;
+  host::StaticText& TitleField;
+  host::StaticText& PageNumber;
+  host::CheckBox& NumberCB;
+  TextButton& ExitPB;
+  host::StaticText& VersionField;
+
+  std::vector<TextButton*> LinkButtonArray;  // button i shows link i of the page
+  std::vector<TextButton*> BackButtonArray;
+
+  std::unique_ptr<content::zkXMLFileClass> xmlFile;
+  std::unique_ptr<content::zkXMLFileClass> glossaryFile;
+  std::string XMLFileName;
+  std::string GlossaryFileName;
+
+  std::int32_t CurrentPage = 0;  // the page on show, or next to be shown
+  History history;
+
+  render::PageGeometry geometry_;
+  std::shared_ptr<host::Graphics> G;  // pen of the page's picture
+  render::PageLayout layout_;         // of the page on show
+};
+
+}  // namespace quill::nav

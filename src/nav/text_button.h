@@ -1,0 +1,98 @@
+// Everything that can be pressed: a canvas with one line of text on a flat
+// ground. The text changes colour while the mouse is over it, and `IsPushed` is
+// raised when the mouse is released on it. There is no pressed look.
+//
+// A button without a label is not in use: it is hidden, disabled and has no
+// size, and hides itself again should anybody show it.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "app/app.h"
+#include "host/controls.h"
+
+namespace quill::nav {
+
+// What a link leads to; the number is the one in the content files. Types 3 to
+// 8 are runs of styled words, which can't be pressed.
+namespace link_type {
+inline constexpr std::int32_t kPage = 0;
+inline constexpr std::int32_t kGlossary = 1;
+inline constexpr std::int32_t kPlain = 2;
+inline constexpr std::int32_t kDocument = 9;
+inline constexpr std::int32_t kTrail = 99;  // of the program's own buttons
+}  // namespace link_type
+
+// Where a button gets the name of its text face from.
+class FontSource {
+ public:
+  virtual ~FontSource() = default;
+  virtual std::string GetFont() const = 0;
+};
+
+class TextButton final : public host::Canvas {
+ public:
+  // `app` and `fonts` must outlive the button.
+  TextButton(host::Window& window, host::Canvas* parent, const host::Rect& frame, app::App& app,
+             const FontSource& fonts);
+
+  // Prepares the button for the current mode: ground, backdrop, text face. The
+  // backdrop is made anew in the button's present size.
+  void init();
+
+  // Sets the label, makes the button as wide as it is at the size given with
+  // `SetFontSize`, and draws it. An empty label puts the button out of use.
+  void SetText(const std::string& text);
+  const std::string& GetText() const { return text; }
+
+  // Makes the button visible, without the look of a mouse over it.
+  void Show();
+
+  // Stores the type and takes its colours; a type that has none of its own
+  // leaves them as they are.
+  void SetLinkType(std::int32_t type);
+  std::int32_t GetLinkType() const { return LinkType; }
+
+  void SetPage(const std::string& page) { Page = page; }
+  const std::string& GetPage() const { return Page; }
+  void SetFilename(const std::string& filename) { Filename = filename; }
+  const std::string& GetFilename() const { return Filename; }
+  void SetFontSize(std::int32_t size) { fontsize = size; }
+
+  // Hides and disables the button without touching its label.
+  void PutAway();
+
+  void Event_Open() override { init(); }
+  void Event_Paint() override;
+  bool Event_MouseDown(std::int32_t x, std::int32_t y) override;
+  void Event_MouseUp(std::int32_t x, std::int32_t y) override;
+  void Event_MouseEnter() override;
+  void Event_MouseExit() override;
+
+  // Raised with the button that was pushed. Without a handler a push does
+  // nothing.
+  std::function<void(TextButton&)> IsPushed;
+
+ private:
+  void SetColors();
+  void DrawText();
+  void TakeOutOfUse();
+
+  app::App& app_;
+  const FontSource& fonts_;
+
+  std::string text;
+  host::Color TextColor;
+  host::Color HighlightColor;
+  host::Color BackgroundColor;
+  bool DrawLine = false;  // under the label
+  bool Rollover = false;  // the mouse is over the button
+  std::int32_t LinkType = 0;
+  std::string Page;  // where it leads: as a rule a page number
+  std::string Filename;
+  std::int32_t fontsize = 0;  // points; 0 is the host's default
+};
+
+}  // namespace quill::nav

@@ -1,0 +1,52 @@
+// A whole reader on the desktop in memory, with content that a test gives.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/memory/memory_desktop.h"
+#include "main/program.h"
+#include "support/content_xml.h"
+
+namespace quill::tests {
+
+class Reader {
+ public:
+  Reader() {
+    for (std::size_t mode = 0; mode < app::kModes.size(); ++mode) {
+      SetPages(mode, {{"Cover", {"cover"}}});
+      SetFile(app::kModes[mode].glossary_file, ContentXml({{"Entry", {"entry"}}}));
+    }
+  }
+
+  void SetFile(std::string_view name, std::string bytes) {
+    desktop.files.AddFile("Quillmere.app/Contents/Data/" + std::string(name), std::move(bytes));
+  }
+
+  void SetPages(std::size_t mode, const std::vector<TestPage>& pages) {
+    SetFile(app::kModes[mode].content_file, ContentXml(pages));
+  }
+
+  // The viewer, which opens at the first call.
+  nav::DisplayWindow& Viewer() { return program_.DisplayWindow(); }
+
+  app::App& App() { return program_.App(); }
+
+  // What the viewer's window shows.
+  host::MemoryScreen& Screen() { return *desktop.screens.at(0); }
+
+  // Clicks on each label in turn; false as soon as one isn't there.
+  bool Click(const std::vector<std::string>& labels) {
+    for (const std::string& label : labels) {
+      if (!Screen().ClickLabel(label)) return false;
+    }
+    return true;
+  }
+
+  host::MemoryDesktop desktop;
+
+ private:
+  Program program_;
+};
+
+}  // namespace quill::tests
