@@ -15,6 +15,14 @@
 
 namespace quill::markup {
 
+// What the toolkit's users set for all of it.
+namespace zkXMLToolkitGlobals {
+
+// Markup is written indented, and white space between its parts left out.
+inline bool UseXMLFormatting = false;
+
+}  // namespace zkXMLToolkitGlobals
+
 // Whether `text` is one white space character.
 bool IsWhiteSpaceChar(std::string_view text);
 

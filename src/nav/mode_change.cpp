@@ -1,6 +1,7 @@
 // How the viewer opens the files of a mode, and changes from one to another.
 #include "host/desktop.h"
 #include "host/numbers.h"
+#include "markup/text_helpers.h"
 #include "nav/display_window.h"
 
 namespace quill::nav {
@@ -14,6 +15,7 @@ void DisplayWindow::SetFile() {
 // When either file can't be opened, the documents of the mode before stay.
 void DisplayWindow::OpenFiles() {
   app_.Trace("DisplayWindow OpenFiles");
+  markup::zkXMLToolkitGlobals::UseXMLFormatting = true;
   xmlFile = std::make_unique<content::zkXMLFileClass>(XMLFileName);
   if (!xmlFile->Init()) {
     host::MsgBox("XMLFile.ini Failed!");
