@@ -147,12 +147,12 @@ TEST_P(ControlContract, TheMouseReachesWhoeverLiesThere) {
     row.before(*window_);
     window_->Open();
     under_test_->Settle();
-    under_test_->Move(199, 99);
     log_.clear();
     Drag(row.drag.left, row.drag.top, row.drag.width, row.drag.height);
     // A canvas below its children may or may not count as entered with them.
     const std::size_t ground = log_.find("b enter\nin b");
     EXPECT_EQ(ground == 0 ? log_.substr(8) : log_, row.log) << row.story;
+    under_test_->Move(199, 99);
   }
 }
 
@@ -213,9 +213,8 @@ TEST_P(ControlContract, AControlMayCloseItsOwnWindow) {
   window_.emplace(log_);
   window_->Open();
   under_test_->Settle();
-  log_.clear();
-  Click(15, 15);
-  EXPECT_EQ(log_, "a enter\na down 5,5\na up 5,5\n");
+  Click(65, 15);
+  EXPECT_TRUE(log_.ends_with("b enter\nb down 5,5\nb up 5,5\n")) << log_;
 }
 
 TEST_P(ControlContract, AWindowHasTheSizeAskedFor) {

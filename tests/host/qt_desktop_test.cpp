@@ -1,8 +1,10 @@
 // What only the desktop with pixels can show: where things are painted, and how
 // the program ends.
+#include <QAccessible>
 #include <QApplication>
 #include <QImage>
 #include <QKeyEvent>
+#include <QWidget>
 #include <QWindow>
 #include <fstream>
 
@@ -28,7 +30,11 @@ class Painting final : public Canvas {
     GetGraphics().ForeColor = color;
     GetGraphics().FillRect(area);
   }
+  bool Event_MouseDown(std::int32_t x, std::int32_t y) override { return pressed = x > 0 && y > 0; }
+  void Say(const std::string& label) { Peer().SetLabel(label); }
+
   bool fails = false;
+  bool pressed = false;
 };
 
 class PaintedWindow final : public Window {
@@ -112,6 +118,20 @@ TEST_F(QtDesktopTest, TextStandsOnItsBaseLineAsWideAsMeasured) {
   EXPECT_EQ(ink.bottom(), 29) << "the base line lies below the last row of an H";
   EXPECT_NEAR(ink.left(), 11, 1);
   EXPECT_NEAR(ink.right() + 1, 10 + pen->StringWidth("HHH\tH") - 1, 1.5);
+}
+
+TEST_F(QtDesktopTest, ALabelMakesACanvasAButtonForTheBlind) {
+  PaintedWindow window;
+  window.Open();
+  QAccessibleInterface* const screen = QAccessible::queryAccessibleInterface(
+      QApplication::topLevelWidgets().front()->findChildren<QWidget*>().back());
+  ASSERT_NE(screen, nullptr);
+  EXPECT_EQ(screen->role(), QAccessible::Pane);
+  window.child.Say("caf\x8E & bar");
+  EXPECT_EQ(screen->role(), QAccessible::Button);
+  EXPECT_EQ(screen->text(QAccessible::Name), QString::fromUtf8("caf\xC3\xA9 & bar"));
+  screen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(window.child.pressed);
 }
 
 TEST_F(QtDesktopTest, AFolderThatIsNotThereTakesNoScreen) {

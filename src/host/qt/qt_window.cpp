@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QScreen>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 #include "host/desktop.h"
@@ -29,12 +30,13 @@ bool IsQuitKey(const QKeyEvent& event) {
   return ctrl_q || event.matches(QKeySequence::Quit);
 }
 
-// Puts `widget`, not yet shown, in the middle of `place`. A window manager may
-// know better; where there is none the corner of the screen would be next.
+// Puts `widget`, not yet shown, in the middle of `place`, its upper left corner
+// inside whatever its size. A window manager may know better; where there is
+// none the corner of the screen would be next.
 void Center(QWidget& widget, const QRect& place) {
   QRect frame(QPoint(0, 0), widget.size());
   frame.moveCenter(place.center());
-  widget.move(frame.topLeft());
+  widget.move(std::max(frame.left(), place.left()), std::max(frame.top(), place.top()));
 }
 
 // The window that a dialog belongs to: the one that is open already.
@@ -111,10 +113,11 @@ Rect QtWindow::Frame() const {
 }
 
 void QtWindow::Show() {
-  const bool opens_dialog = widget_->windowType() == Qt::Dialog && !widget_->isVisible();
+  const bool shown_already = widget_->isVisible();
+  const bool opens_dialog = widget_->windowType() == Qt::Dialog && !shown_already;
   if (const auto* const owner = opens_dialog ? OwnerOf(*widget_) : nullptr) KeepAbove(*widget_, *owner);
   widget_->show();
-  widget_->raise();
+  if (shown_already) widget_->raise();  // a new one comes in front by itself
   widget_->activateWindow();
 }
 
