@@ -2,28 +2,22 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-#include <string>
-
 #include "host/text.h"
+#include "support/texts.h"
 
 namespace quill::markup {
 namespace {
 
 TEST(EndTagSearch, AgreesWithPlainSearches) {
+  const std::vector<std::string> pieces = {"<", "/", "/", "a", "A", "b", ">"};
   std::mt19937 random(11);
-  const auto random_text = [&](std::size_t length) {
-    std::string text;
-    while (text.size() < length) text += "<//aAb>"[random() % 7];
-    return text;
-  };
   for (int round = 0; round < 20000; ++round) {
-    const std::string text = random_text(30);
+    const std::string text = tests::RandomText(random, pieces, 30);
     EndTagSearch search;
     bool expected = true;
     std::vector<std::string> names(1 + random() % 3);
     for (std::string& name : names) {
-      name = random_text(random() % 4);
+      name = tests::RandomText(random, pieces, random() % 4);
       const std::size_t from = random() % 20;
       search.Require(name, from);
       expected = expected && host::InStr(from + 1, text, "</" + name) > 0;

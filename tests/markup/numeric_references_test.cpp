@@ -2,14 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-#include <string>
-
 #include "host/numbers.h"
 #include "host/text.h"
+#include "support/texts.h"
 
 namespace quill::markup {
 namespace {
+
+using tests::Repeated;
 
 std::string Replaced(std::string text) {
   ReplaceNumericReferences(text);
@@ -18,8 +18,7 @@ std::string Replaced(std::string text) {
 
 // The rule as it reads, with no thought of time.
 std::string ReplacedNaively(std::string text) {
-  std::size_t start = 0;
-  for (;;) {
+  for (std::size_t start = 0;;) {
     const std::size_t found = text.find("&#", start);
     if (found == std::string::npos) return text;
     const std::size_t semicolon = text.find(';', found + 2);
@@ -28,13 +27,6 @@ std::string ReplacedNaively(std::string text) {
     if (number > 0) text = host::Replace(text, "&#" + host::Str(number) + ";", host::Chr(number));
     start = found + 1;
   }
-}
-
-std::string RandomText(std::mt19937& random, const std::vector<std::string>& pieces, int length) {
-  std::uniform_int_distribution<std::size_t> any(0, pieces.size() - 1);
-  std::string text;
-  for (int i = 0; i < length; ++i) text += pieces[any(random)];
-  return text;
 }
 
 TEST(NumericReferences, AgreeWithTheRule) {
@@ -46,9 +38,9 @@ TEST(NumericReferences, AgreeWithTheRule) {
                                           "&#065;", "&#65;", "&#",    "#65;",         "65;",
                                           "5;",     ";",     "x",     "&#2147483647;"};
   std::mt19937 random(7);
-  for (int round = 0; round < 20000; ++round) {
+  for (std::size_t round = 0; round < 20000; ++round) {
     for (const auto& pieces : {characters, parts}) {
-      const std::string text = RandomText(random, pieces, 4 + round % 20);
+      const std::string text = tests::RandomText(random, pieces, 4 + round % 20);
       ASSERT_EQ(Replaced(text), ReplacedNaively(text)) << text;
     }
   }
@@ -56,14 +48,9 @@ TEST(NumericReferences, AgreeWithTheRule) {
 
 TEST(NumericReferences, LongTextsAreQuick) {
   const int count = 200000;
-  std::string made;  // each reference makes one that the last ones replace
-  std::string tail;
-  std::string unread;
-  for (int i = 0; i < count; ++i) {
-    made += "&#38;#65;";
-    tail += "&#65;";
-    unread += "&#x";
-  }
+  const std::string made = Repeated("&#38;#65;", count);  // the last ones replace what these make
+  const std::string tail = Repeated("&#65;", count);
+  const std::string unread = Repeated("&#x", count);
   EXPECT_EQ(Replaced(tail), std::string(count, 'A'));
   EXPECT_EQ(Replaced(unread + ";&#65;").substr(unread.size()), ";A");
   EXPECT_EQ(Replaced("&#065;" + unread + ";").size(), unread.size() + 7);

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "markup/element.h"
+#include "markup/exceptions.h"
 
 namespace quill::tests {
 
@@ -60,6 +61,18 @@ inline std::string DumpContent(const markup::zkXMLElement& element) {
     dump += (i == 1 ? "" : " ") + DumpTree(*element.GetContent(i));
   }
   return dump;
+}
+
+constexpr const char* kRefused = "refused";
+
+// What `dump` gives, `kRefused` if the text of it can't be parsed.
+template <typename Dump>
+std::string DumpOrRefused(const Dump& dump) {
+  try {
+    return dump();
+  } catch (const markup::zkXMLParsingException&) {
+    return kRefused;
+  }
 }
 
 }  // namespace quill::tests
