@@ -50,6 +50,9 @@ bool zkXMLFileClass::GetDocument(std::shared_ptr<Document> document) {
 }
 
 bool zkXMLFileClass::Open() {
+  // The tree of an earlier file must never be saved to another.
+  TheContainer = nullptr;
+  Root = AppInfo = TheDocument = nullptr;
   if (!Locate()) return false;
   TheContainer = std::make_shared<markup::zkXMLContainer>(TheFile);
   Root = TheContainer->GetElement("Root");

@@ -1,5 +1,5 @@
 // One open content file: finds it in the bundle, has it parsed, reads its head
-// and keeps its tree.
+// and keeps its tree; for authors it also changes the tree and writes it back.
 //
 //   Root
 //     AppInfo
@@ -19,12 +19,24 @@
 // nothing of it is trimmed.
 //
 // The calls come in this order: constructor, `Init`, and when that gave true,
-// `GetDocument`.
+// `GetDocument`, and then all that edits.
+//
+// Edits change the tree and nothing else: to see them in a `Document`, call
+// `GetDocument` with a new one. A page is addressed by its id, of which only the
+// number counts (`host::Val`); the page with id n is `Page` element n + 1. What
+// isn't there (a page, its `Links`, a `Title` to update) is passed over without a
+// word. Every edit throws `NilObjectException` out of the order above.
+//
+// Text of a new page or link is taken as it would stand in the file: ISO 8859-1,
+// escapes and line ends are decoded. Text that replaces another is taken as it
+// stands in the program, Mac Roman, and kept to the letter.
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "content/document.h"
 #include "host/files.h"
@@ -54,10 +66,66 @@ class zkXMLFileClass {
   const std::string& GetAppVersion() const { return AppVersion; }
   std::int32_t GetLastPageID() const { return LastPageID; }
 
+  // Appends a page of as many columns as there are texts, with an empty list of
+  // links. Its id is the next after the last.
+  void AddPage(const std::string& title, const std::string& text);
+  void AddPage(const std::string& title, const std::string& text1, const std::string& text2);
+  void AddPage(const std::string& title, const std::string& text1, const std::string& text2,
+               const std::string& text3);
+
+  // Sets the title and the first texts of a page, of those that it has; the
+  // number of columns stays. Gives it a list of links if it has none.
+  void UpdatePage(const std::string& page_id, const std::string& title, const std::string& text);
+  void UpdatePage(const std::string& page_id, const std::string& title, const std::string& text1,
+                  const std::string& text2);
+  void UpdatePage(const std::string& page_id, const std::string& title, const std::string& text1,
+                  const std::string& text2, const std::string& text3);
+
+  // Appends a link to those of a page, whatever else lies at that offset.
+  // Without a column it is for column 1.
+  void AddLink(const std::string& page_id, const std::string& offset, const std::string& length,
+               const std::string& link_to_page, std::int32_t type);
+  void AddLink(const std::string& page_id, const std::string& offset, const std::string& length,
+               const std::string& link_to_page, std::int32_t type, std::int32_t column);
+  void AddLink(const std::string& page_id, const std::string& offset, const std::string& length,
+               const std::string& link_to_page, std::int32_t type, std::int32_t column,
+               const std::string& file_name);
+
+  // Sets four values of a page's link by its number, from 1 and with deleted ones
+  // counted; column and file name stay. Says so if the link is a deleted one.
+  void UpdateLink(const std::string& page_id, std::int32_t link_number, const std::string& offset,
+                  const std::string& length, const std::string& link_to_page, std::int32_t type);
+
+  // Empties the first link with that offset, in whatever column. It keeps its
+  // number, and the loader passes over it.
+  void DeleteLink(const std::string& page_id, const std::string& offset);
+
+  // The next page id, the version plus 0.1: here and, where the file has such an
+  // element with a text, in the tree.
+  void IncrementPageID();
+  void IncrementVersion();
+
+  // The `Page` element of that id, null if there is none.
+  std::shared_ptr<markup::zkXMLElement> GetPage(const std::string& page_id) const;
+
+  // Writes the tree to its file, all or nothing. False if that can't be done or
+  // nothing is open; the old file is then what it was.
+  //
+  // No indentation is added, whatever `UseXMLFormatting` says: it would make an
+  // empty title one of white space. What stood in the file stands there again,
+  // with carriage returns for line ends. `serialiser.cpp` tells what can't be
+  // written.
+  bool Save() const;
+
  private:
   bool Open();
   bool Locate();
   void ReadAppInfo();
+
+  using Texts = std::initializer_list<std::string_view>;
+  void AppendPage(const std::string& title, Texts texts);
+  void ReplaceTexts(const std::string& page_id, const std::string& title, Texts texts) const;
+  std::shared_ptr<markup::zkXMLElement> LinksOf(const std::string& page_id) const;
 
   std::shared_ptr<host::FolderItem> TheFile;
   std::shared_ptr<markup::zkXMLContainer> TheContainer;

@@ -31,6 +31,13 @@ class zkXMLContainer final : public zkXMLElement {
   // Throws `NilObjectException` for null and for a file that can't be opened.
   explicit zkXMLContainer(const std::shared_ptr<host::FolderItem>& file);
 
+  // The whole document as markup. What stands at its top level, text excepted,
+  // ends a line where `UseXMLFormatting` is set; nothing is written but the nodes.
+  std::string GetXMLString() const override;
+
+  // Nothing: inside an element a document has no form of its own.
+  std::string GetXMLString(std::int32_t /*i*/) const override { return {}; }
+
   // Feeds one chunk; `relaxed` counts on the first call only. A construct that
   // the chunk cuts off is kept for the next. Does nothing on a container that was
   // built from a text. Throws as the constructor does; the tree built so far

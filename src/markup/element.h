@@ -7,8 +7,8 @@
 // so that the case of letters does not count. An element owns its share of its
 // children; it must not become its own descendant.
 //
-// However deep a tree is, its release takes no more of the stack than that of a
-// flat one.
+// However deep a tree is, its release and its writing take no more of the stack
+// than those of a flat one.
 #pragma once
 
 #include <cstdint>
@@ -29,6 +29,16 @@ class zkXMLElement : public zkXMLObject {
   // to come. Throws `zkXMLParsingException` for an attribute that can't be read.
   explicit zkXMLElement(std::string_view tag, bool relaxed = false, bool complete_now = true);
   ~zkXMLElement() override;
+
+  // The element as markup; its children stand `i` levels deep, 0 if not told.
+  // The depth shows only where `UseXMLFormatting` is set: then every child but
+  // text starts a line, and so does the end tag unless text stands before it.
+  std::string GetXMLString() const override { return GetXMLString(0); }
+  virtual std::string GetXMLString(std::int32_t i) const;
+
+  // What stands before a child `i` levels deep: a line break and as many
+  // indentations (none for a depth below 0), or nothing without formatting.
+  static std::string getLineBreakAndIndent(std::int32_t i);
 
   std::string GetName() const override { return name; }
   bool IsNamed(std::string_view other) const;
@@ -64,6 +74,10 @@ class zkXMLElement : public zkXMLObject {
                                            std::string_view attribute) const;
   std::shared_ptr<zkXMLElement> GetElement(std::string_view element, std::int32_t i,
                                            std::string_view attribute, std::string_view value) const;
+
+  // The element at the end of a path, null if a step leads nowhere. See
+  // `path_query.cpp` for what a path may be.
+  std::shared_ptr<zkXMLElement> GetDeepElement(std::string_view path) const;
 
   // The first child element of that name. `i` becomes its entry number in the
   // content, where all kinds of object count; it stays as it was if there is

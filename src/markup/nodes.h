@@ -1,7 +1,7 @@
 // The leaves of a markup tree. Each guards its own text: what may not stand
 // inside its construct is changed when the text goes in and, where that can be,
 // changed back when it comes out. So what is stored can always be written as it
-// stands.
+// stands (`serialiser.cpp`).
 //
 // Names and texts are otherwise taken as they come; no operation here fails but
 // through the text converters (`DecodeXMLText`).
@@ -19,6 +19,7 @@ class zkXMLAttribute final : public zkXMLObject {
  public:
   zkXMLAttribute(std::string name, Variant value);
 
+  std::string GetXMLString() const override;
   std::string GetName() const override { return name; }
   void SetName(std::string new_name) override { name = std::move(new_name); }
 
@@ -43,6 +44,7 @@ class zkXMLTextSection final : public zkXMLObject {
   // layers deep, and every line end becomes one line feed.
   explicit zkXMLTextSection(std::string_view raw);
 
+  std::string GetXMLString() const override;
   std::string GetName() const override { return "Text"; }
   Variant GetData() const override;
 
@@ -63,6 +65,7 @@ class zkXMLCDataSection final : public zkXMLObject {
  public:
   explicit zkXMLCDataSection(std::string_view text) { zkXMLCDataSection::SetData(Variant(text)); }
 
+  std::string GetXMLString() const override;
   std::string GetName() const override { return "CDATA"; }
   void SetData(Variant value) override;
   Variant GetData() const override;
@@ -78,6 +81,7 @@ class zkXMLComment final : public zkXMLObject {
  public:
   explicit zkXMLComment(std::string_view text) { zkXMLComment::SetData(Variant(text)); }
 
+  std::string GetXMLString() const override;
   std::string GetName() const override { return "Comment"; }
   Variant GetData() const override { return comment; }
   void SetData(Variant value) override;
@@ -92,6 +96,7 @@ class zkXMLPInstruction final : public zkXMLObject {
  public:
   explicit zkXMLPInstruction(std::string_view text) { zkXMLPInstruction::SetData(Variant(text)); }
 
+  std::string GetXMLString() const override;
   std::string GetName() const override { return "Processing Instruction"; }
   void SetData(Variant value) override;
   Variant GetData() const override;
@@ -109,6 +114,7 @@ class zkXMLDeclaration final : public zkXMLObject {
   zkXMLDeclaration(std::string type_word, std::string text)
       : type(std::move(type_word)), data(std::move(text)) {}
 
+  std::string GetXMLString() const override;
   std::string GetName() const override { return type; }
   Variant GetData() const override { return data; }
   void SetData(Variant value) override { data = std::move(value); }

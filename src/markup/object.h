@@ -18,6 +18,10 @@ class zkXMLObject {
   zkXMLObject(const zkXMLObject&) = delete;
   zkXMLObject& operator=(const zkXMLObject&) = delete;
 
+  // The object as markup, as it stands in a file. Throws only what the text
+  // converters throw (`EncodeXMLText`).
+  virtual std::string GetXMLString() const = 0;
+
   // The object's name, or the word for its kind where it has none.
   virtual std::string GetName() const = 0;
 

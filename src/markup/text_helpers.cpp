@@ -46,6 +46,19 @@ std::string WithReferences(std::string_view text) {
 
 }  // namespace
 
+const std::string& zkXMLLineBreak() {
+  if (zkXMLToolkitGlobals::zkXMLLineDelimiter.empty()) SetXMLLineBreakMac();
+  return zkXMLToolkitGlobals::zkXMLLineDelimiter;
+}
+
+void SetXMLLineBreakMac() { zkXMLToolkitGlobals::zkXMLLineDelimiter = "\r"; }
+
+const std::string& zkXMLIndentationCharacter() {
+  std::string& indentation = zkXMLToolkitGlobals::zkXMLIndentationChar;
+  if (indentation.empty()) indentation = "\t";
+  return indentation;
+}
+
 bool IsWhiteSpaceChar(std::string_view text) {
   return text.size() == 1 && kWhiteSpace.find(text[0]) != std::string_view::npos;
 }

@@ -21,7 +21,20 @@ namespace zkXMLToolkitGlobals {
 // Markup is written indented, and white space between its parts left out.
 inline bool UseXMLFormatting = false;
 
+// A line break and one level of indentation, as markup is written. Empty until
+// they are first asked for; set before, they stay.
+inline std::string zkXMLLineDelimiter;
+inline std::string zkXMLIndentationChar;
+
 }  // namespace zkXMLToolkitGlobals
+
+// The line break of all written markup: one carriage return, unless another has
+// been set.
+const std::string& zkXMLLineBreak();
+void SetXMLLineBreakMac();
+
+// One level of indentation: a tab, unless another text has been set.
+const std::string& zkXMLIndentationCharacter();
 
 // Whether `text` is one white space character.
 bool IsWhiteSpaceChar(std::string_view text);
