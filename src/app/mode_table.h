@@ -21,6 +21,7 @@ struct Mode {
   // link into it chose.
   std::optional<std::int32_t> first_page;
   PictureId page_picture;
+  PictureId glossary_picture;
   // Where the title moves when a page of the mode is drawn. Without a value it
   // stays where the mode before left it.
   std::optional<std::int32_t> title_top;
@@ -29,18 +30,24 @@ struct Mode {
 };
 
 inline constexpr std::array<Mode, 6> kModes = {{
-    {"init", "initQMR.xml", "initglossary.xml", 0, PictureId::kQmr, 4, host::RGB(127, 171, 146), false},
-    {"Screen", "ScreenQMR.xml", "ScreenGlossary.xml", 1, PictureId::kBoard, 14, host::RGB(70, 70, 70), true},
-    {"Stage", "StageQMR.xml", "StageGlossary.xml", 1, PictureId::kStage, 4, host::kBlack, false},
-    {"TV", "TVQMR.xml", "TVGlossary.xml", 1, PictureId::kTv, std::nullopt, host::kBlack, false},
-    {"WGA", "wgaqmr.xml", "wgaGlossary.xml", 1, PictureId::kBlack, std::nullopt, host::kBlack, false},
-    {"Bio", "BioQMR.xml", "BioGlossary.xml", std::nullopt, PictureId::kBlack, std::nullopt, host::kBlack,
+    {"init", "initQMR.xml", "initglossary.xml", 0, PictureId::kQmr, PictureId::kBlack, 4,
+     host::RGB(127, 171, 146), false},
+    {"Screen", "ScreenQMR.xml", "ScreenGlossary.xml", 1, PictureId::kBoard, PictureId::kGreen, 14,
+     host::RGB(70, 70, 70), true},
+    {"Stage", "StageQMR.xml", "StageGlossary.xml", 1, PictureId::kStage, PictureId::kBlack, 4, host::kBlack,
      false},
+    {"TV", "TVQMR.xml", "TVGlossary.xml", 1, PictureId::kTv, PictureId::kBlack, std::nullopt, host::kBlack,
+     false},
+    {"WGA", "wgaqmr.xml", "wgaGlossary.xml", 1, PictureId::kBlack, PictureId::kBlack, std::nullopt,
+     host::kBlack, false},
+    {"Bio", "BioQMR.xml", "BioGlossary.xml", std::nullopt, PictureId::kBlack, PictureId::kBlack, std::nullopt,
+     host::kBlack, false},
 }};
 
 // The opening page, the one mode whose links are ways into the others.
 inline constexpr std::int32_t kOpeningMode = 0;
 inline constexpr std::int32_t kScreenMode = 1;
+inline constexpr std::int32_t kWgaMode = 4;
 inline constexpr std::int32_t kBioMode = 5;
 
 constexpr bool IsMode(std::int32_t mode) {

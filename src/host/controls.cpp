@@ -67,7 +67,14 @@ void CheckBox::SetValue(bool value) {
   peer_->SetValue(value);
 }
 
-Window::Window(const WindowStyle& style) : style_(style), peer_(Desktop::Current().NewWindow(style)) {}
+EditField::EditField(Window& window, Canvas* parent, const Rect& frame, const TextStyle& style,
+                     Color back_color)
+    : RectControl(frame),
+      peer_(window.Peer().NewEditField(style, back_color, parent ? parent->peer_.get() : nullptr)) {
+  ShowState();
+}
+
+Window::Window(const WindowStyle& style) : style_(style), peer_(Desktop::Current().NewWindow(style, *this)) {}
 
 // Controls go before the window's peer, the last made first.
 Window::~Window() {
@@ -75,8 +82,15 @@ Window::~Window() {
 }
 
 void Window::Open() {
+  open_ = true;
   Event_Open();
   peer_->Show();
+}
+
+void Window::Close() {
+  if (!std::exchange(open_, false)) return;
+  Event_Close();
+  peer_->Hide();
 }
 
 }  // namespace quill::host

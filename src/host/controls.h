@@ -86,6 +86,7 @@ class Canvas : public RectControl {
  private:
   friend class StaticText;
   friend class CheckBox;
+  friend class EditField;
 
   std::unique_ptr<CanvasPeer> peer_;
   std::shared_ptr<Picture> backdrop_;
@@ -126,7 +127,23 @@ class CheckBox : public RectControl {
   bool value_ = false;
 };
 
-// A window and its controls, which it owns.
+// Several lines of text to be edited, UTF-8; see `WindowPeer::NewEditField`.
+class EditField : public RectControl {
+ public:
+  EditField(Window& window, Canvas* parent, const Rect& frame, const TextStyle& style, Color back_color);
+
+  std::string Text() const { return peer_->Text(); }
+  void SetText(const std::string& text) { peer_->SetText(text); }
+
+ protected:
+  EditFieldPeer& Peer() override { return *peer_; }
+
+ private:
+  std::unique_ptr<EditFieldPeer> peer_;
+};
+
+// A window and its controls, which it owns. It is open from `Open` to `Close`,
+// once in its life; a desktop closes it too, where the user may.
 class Window {
  public:
   explicit Window(const WindowStyle& style);
@@ -140,13 +157,27 @@ class Window {
   std::int32_t Width() const { return peer_->Frame().width; }
   std::int32_t Height() const { return peer_->Frame().height; }
 
+  bool IsOpen() const { return open_; }
+
   // Runs the Open event, then puts the window on the screen.
   void Open();
+
+  // Runs the Close event and takes the window off the screen; nothing if it
+  // isn't open. The object stays with its owner, so that a window may well be
+  // closed in an event of one of its controls.
+  void Close();
+
+  // Brings the window to the front.
+  void Show() { peer_->Show(); }
+
+  // Puts the upper left corner of the content there on the screen.
+  void MoveTo(std::int32_t left, std::int32_t top) { peer_->MoveTo(left, top); }
 
   WindowPeer& Peer() { return *peer_; }
 
  protected:
   virtual void Event_Open() {}
+  virtual void Event_Close() {}
 
   // Makes a control of class `T` with this window as its first argument, keeps
   // it and raises its Open event.
@@ -163,6 +194,7 @@ class Window {
   WindowStyle style_;
   std::unique_ptr<WindowPeer> peer_;
   std::vector<std::unique_ptr<RectControl>> controls_;
+  bool open_ = false;
 };
 
 }  // namespace quill::host

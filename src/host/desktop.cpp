@@ -1,5 +1,7 @@
 #include "host/desktop.h"
 
+#include <utility>
+
 #include "host/application.h"
 #include "host/exceptions.h"
 
@@ -10,10 +12,10 @@ Desktop* current = nullptr;
 
 }  // namespace
 
-Desktop::Desktop() { current = this; }
+Desktop::Desktop() : previous_(std::exchange(current, this)) {}
 
 Desktop::~Desktop() {
-  if (current == this) current = nullptr;
+  if (current == this) current = previous_;
 }
 
 Desktop& Desktop::Current() {
@@ -32,6 +34,8 @@ std::shared_ptr<Picture> NewPicture(std::int32_t width, std::int32_t height, std
 std::shared_ptr<FolderItem> GetFolderItem(const std::string& path, std::int32_t path_type) {
   return path.empty() && path_type == 0 ? Desktop::Current().ApplicationFolder() : nullptr;
 }
+
+std::shared_ptr<FolderItem> PreferencesFolder() { return Desktop::Current().PreferencesFolder(); }
 
 std::shared_ptr<Picture> ResourceFork::GetPicture(std::int32_t id) {
   return Desktop::Current().StoredPicture(id);

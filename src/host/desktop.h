@@ -1,10 +1,9 @@
 // What the program asks of a desktop. There are two: the one that people run
 // (host/qt) and the one in memory that tests watch (host/memory).
 //
-// One desktop is current at a time, from its construction to its destruction,
-// and it outlives every window, control and picture made while it is. The free
-// functions below ask the current desktop; without one they throw
-// `NilObjectException`.
+// The desktop made last is current until it goes, and it outlives every window,
+// control and picture made while it is. The free functions below ask the current
+// desktop; without one they throw `NilObjectException`.
 #pragma once
 
 #include <cstdint>
@@ -36,6 +35,14 @@ class Desktop {
   // The folder that holds the application's bundle; null if it can't be told.
   virtual std::shared_ptr<FolderItem> ApplicationFolder() = 0;
 
+  // The folder in which the user's preferences lie; null if it can't be told.
+  virtual std::shared_ptr<FolderItem> PreferencesFolder() = 0;
+
+  // Starts the application with that creator code on the document at `path`
+  // (`FolderItem::Path`) and goes on at once; false if none could be started.
+  // "MACS" is the desktop's own opener of documents, "QLD7" the companion.
+  virtual bool OpenDocument(const std::string& application, const std::string& path) = 0;
+
   // The version of the application that the bundle states.
   virtual std::string LongVersion() = 0;
 
@@ -51,7 +58,10 @@ class Desktop {
   // null if there is none.
   virtual std::shared_ptr<Picture> StoredPicture(std::int32_t id) = 0;
 
-  virtual std::unique_ptr<WindowPeer> NewWindow(const WindowStyle& style) = 0;
+  virtual std::unique_ptr<WindowPeer> NewWindow(const WindowStyle& style, Window& window) = 0;
+
+ private:
+  Desktop* previous_;  // current before this one, and again after it
 };
 
 void MsgBox(const std::string& text);
@@ -61,6 +71,9 @@ std::shared_ptr<Picture> NewPicture(std::int32_t width, std::int32_t height, std
 // The item at `path`. The one path there is, the empty one with path type 0,
 // gives the folder that holds the application's bundle; any other null.
 std::shared_ptr<FolderItem> GetFolderItem(const std::string& path, std::int32_t path_type = 0);
+
+// The folder in which the user's preferences lie; null if it can't be told.
+std::shared_ptr<FolderItem> PreferencesFolder();
 
 // The pictures stored with the program.
 namespace ResourceFork {

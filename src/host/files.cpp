@@ -1,10 +1,28 @@
 #include "host/files.h"
 
+#include <utility>
+
 namespace quill::host {
 
 std::shared_ptr<FolderItem> FolderItem::TrueChild(const std::string& name) const {
   std::shared_ptr<FolderItem> child = Child(name);
   return child && child->Exists() ? child : nullptr;
+}
+
+std::unique_ptr<TextInputStream> FolderItem::OpenAsTextFile() const {
+  const std::unique_ptr<BinaryStream> stream = OpenAsBinaryFile();
+  if (!stream) return nullptr;
+  std::string text = stream->Read(stream->Length());
+  if (text.size() != stream->Length()) return nullptr;
+  return std::make_unique<TextInputStream>(std::move(text));
+}
+
+std::string TextInputStream::ReadLine() {
+  std::size_t end = text_.find_first_of("\r\n", at_);
+  if (end == std::string::npos) end = text_.size();
+  if (end < text_.size()) end += text_.compare(end, 2, "\r\n") == 0 ? 2 : 1;
+  const std::size_t begin = std::exchange(at_, end);
+  return text_.substr(begin, end - begin);
 }
 
 bool IsPlainName(const std::string& name) {

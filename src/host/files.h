@@ -23,12 +23,47 @@ class BinaryStream {
   virtual void Close() = 0;
 };
 
+// An open file of text, line by line.
+class TextInputStream {
+ public:
+  explicit TextInputStream(std::string text) : text_(std::move(text)) {}
+
+  // Whether all lines have been read. The end of the file is no line: an empty
+  // file has none.
+  bool AtEnd() const { return at_ >= text_.size(); }
+
+  // The next line with the line end that it has (LF, CR LF or CR; the last may
+  // have none), so that lines put together give the file again.
+  std::string ReadLine();
+
+  void Close() { at_ = text_.size(); }
+
+ private:
+  std::string text_;
+  std::size_t at_ = 0;
+};
+
+// A file of text in the making. It takes its place when it is closed, whole and
+// at once; one that is dropped before leaves what was there.
+class TextOutputStream {
+ public:
+  virtual ~TextOutputStream() = default;
+
+  virtual void Write(const std::string& text) = 0;
+
+  // False if the file couldn't be put in its place; what was there is still.
+  virtual bool Close() = 0;
+};
+
 class FolderItem {
  public:
   virtual ~FolderItem() = default;
 
   // Last part of the path, in UTF-8.
   virtual std::string Name() const = 0;
+
+  // Where it is, as the desktop names places.
+  virtual std::string Path() const = 0;
 
   virtual bool Exists() const = 0;
 
@@ -42,6 +77,21 @@ class FolderItem {
 
   // Opens the file for reading; null if it can't be.
   virtual std::unique_ptr<BinaryStream> OpenAsBinaryFile() const = 0;
+
+  // The same for a file of text.
+  std::unique_ptr<TextInputStream> OpenAsTextFile() const;
+
+  // Makes the file anew, for its owner alone to read; null if it can't be. A
+  // link to a file is followed.
+  std::unique_ptr<TextOutputStream> CreateTextFile() const { return Create(Readers::kOwner); }
+
+  // The same for a file that others may read as they read the old one, or as is
+  // usual where there was none.
+  std::unique_ptr<TextOutputStream> CreateSharedFile() const { return Create(Readers::kAsBefore); }
+
+ protected:
+  enum class Readers { kOwner, kAsBefore };
+  virtual std::unique_ptr<TextOutputStream> Create(Readers readers) const = 0;
 };
 
 // Whether `name` names a place right inside a folder; see `FolderItem::Child`.

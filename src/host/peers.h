@@ -16,6 +16,7 @@ namespace quill::host {
 
 class Canvas;
 class CheckBox;
+class Window;
 
 class ControlPeer {
  public:
@@ -54,6 +55,14 @@ class CheckBoxPeer : public ControlPeer {
   virtual void SetValue(bool value) = 0;
 };
 
+// The text is UTF-8. What the field can't show as it is, it shows in some
+// visible form and gives back unchanged as long as the user changes nothing.
+class EditFieldPeer : public ControlPeer {
+ public:
+  virtual void SetText(const std::string& text) = 0;
+  virtual std::string Text() = 0;
+};
+
 // Where the line of a `StaticText` stands in its frame.
 enum class TextAlign { kLeft = 0, kCenter = 1, kRight = 2 };
 
@@ -87,11 +96,19 @@ class WindowPeer {
   virtual std::unique_ptr<CheckBoxPeer> NewCheckBox(CheckBox& box, const std::string& caption,
                                                     const TextFace& face, ControlPeer* parent) = 0;
 
+  // Several lines of text with a scroll bar, to be edited. The distances of its
+  // frame from the four edges of the window stay as the window's size changes.
+  virtual std::unique_ptr<EditFieldPeer> NewEditField(const TextStyle& style, Color back_color,
+                                                      ControlPeer* parent) = 0;
+
   // Place and size of the window's content on the screen.
   virtual Rect Frame() const = 0;
 
-  // Puts the window on the screen, in front of the others.
+  virtual void MoveTo(std::int32_t left, std::int32_t top) = 0;
+
+  // Puts the window on the screen, in front of the others; takes it off.
   virtual void Show() = 0;
+  virtual void Hide() = 0;
 };
 
 }  // namespace quill::host

@@ -1,14 +1,11 @@
 #include "host/desktop_under_test.h"
 
-#include <stdlib.h>
-
 #include <QApplication>
 #include <QCursor>
 #include <QMouseEvent>
 #include <QWidget>
 #include <QWindow>
 #include <fstream>
-#include <stdexcept>
 
 #include "host/memory/memory_desktop.h"
 
@@ -21,79 +18,46 @@ class MemoryUnderTest final : public DesktopUnderTest {
   MemoryUnderTest() { desktop_.metrics.bold_extra = 1; }
 
   Desktop& Get() override { return desktop_; }
-  void AddFile(const std::string& path, const std::string& bytes) override {
-    desktop_.files.AddFile(path, bytes);
-  }
+  void AddFile(const std::string& path, const std::string& bytes) override { files_.AddFile(path, bytes); }
   void Move(std::int32_t x, std::int32_t y) override { Screen().MoveMouse(x, y); }
   void Press() override { Screen().Press(); }
   void Release() override { Screen().Release(); }
   void Settle() override { Screen().Paint(); }
+  bool ShowsWindow() override { return Screen().shown && !Screen().closed; }
 
  private:
   MemoryScreen& Screen() { return *desktop_.screens.back(); }
 
   MemoryDesktop desktop_;
+  MemoryFiles& files_ = desktop_.files;
 };
 
-QWindow& ShownWindow() {
+// Null if none is shown.
+QWindow* ShownWindow() {
   for (QWindow* window : QGuiApplication::topLevelWindows()) {
-    if (window->isVisible()) return *window;
+    if (window->isVisible()) return window;
   }
-  throw std::logic_error("no window is shown");
-}
-
-// Hands the event to the toolkit's window, which finds the widget for it as it
-// would for a mouse.
-void Send(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held) {
-  QWindow& window = ShownWindow();
-  QMouseEvent event(type, at, window.mapToGlobal(at), button, held, Qt::NoModifier);
-  QCoreApplication::sendEvent(&window, &event);
+  return nullptr;
 }
 
 }  // namespace
 
-TemporaryFolder::TemporaryFolder() {
-  std::string name = (std::filesystem::temp_directory_path() / "quillmere-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  path_ = name;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
-
-int& QtUnderTest::ArgumentCount() {
-  static int count = 1;
-  return count;
-}
-
-char** QtUnderTest::Arguments() {
-  static char name[] = "host_test";
-  static char* arguments[] = {name, nullptr};
-  return arguments;
-}
-
 void QtUnderTest::AddFile(const std::string& path, const std::string& bytes) {
-  const std::filesystem::path file = folder_.Path() / path;
+  const std::filesystem::path file = Folder() / path;
   std::filesystem::create_directories(file.parent_path());
   std::ofstream(file, std::ios::binary) << bytes;
 }
 
 void QtUnderTest::Move(std::int32_t x, std::int32_t y) {
-  x_ = x;
-  y_ = y;
-  QCursor::setPos(ShownWindow().mapToGlobal(QPoint(x, y)));
+  mouse_ = QPoint(x, y);
+  QCursor::setPos(ShownWindow()->mapToGlobal(mouse_));
   Settle();
 }
 
-void QtUnderTest::Press() {
-  Send(QEvent::MouseButtonPress, QPointF(x_, y_), Qt::LeftButton, Qt::LeftButton);
-  Settle();
-}
-
-void QtUnderTest::Release() {
-  Send(QEvent::MouseButtonRelease, QPointF(x_, y_), Qt::LeftButton, Qt::NoButton);
+void QtUnderTest::Send(QEvent::Type type, Qt::MouseButtons held) {
+  QWindow* const window = ShownWindow();
+  QMouseEvent event(type, mouse_, window->mapToGlobal(mouse_), Qt::LeftButton, held, Qt::NoModifier);
+  QCoreApplication::sendEvent(window, &event);
   Settle();
 }
 
@@ -103,6 +67,8 @@ void QtUnderTest::Settle() {
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+bool QtUnderTest::ShowsWindow() { return ShownWindow() != nullptr; }
+
 std::string DesktopName(const testing::TestParamInfo<Which>& which) {
   return which.param == Which::kMemory ? "Memory" : "Qt";
 }
@@ -110,6 +76,21 @@ std::string DesktopName(const testing::TestParamInfo<Which>& which) {
 std::unique_ptr<DesktopUnderTest> MakeDesktop(Which which) {
   if (which == Which::kMemory) return std::make_unique<MemoryUnderTest>();
   return std::make_unique<QtUnderTest>();
+}
+
+bool Save(const FolderItem& file, const std::string& text) {
+  const auto stream = file.CreateTextFile();
+  if (!stream) return false;
+  stream->Write(text);
+  return stream->Close();
+}
+
+std::string LinesOf(const FolderItem& file) {
+  const auto stream = file.OpenAsTextFile();
+  if (!stream) return "none";
+  std::string lines;
+  while (!stream->AtEnd()) lines += "[" + stream->ReadLine() + "]";
+  return lines;
 }
 
 }  // namespace quill::host

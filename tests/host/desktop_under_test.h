@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QEvent>
+#include <QPoint>
+#include <QTemporaryDir>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -30,52 +33,48 @@ class DesktopUnderTest {
 
   // Lets the desktop deliver what is waiting, painting included.
   virtual void Settle() = 0;
+
+  // Whether a window is on the screen.
+  virtual bool ShowsWindow() = 0;
 };
 
 enum class Which { kMemory, kQt };
 
 std::unique_ptr<DesktopUnderTest> MakeDesktop(Which which);
 
-// A folder on the disk that goes with the object.
-class TemporaryFolder {
- public:
-  TemporaryFolder();
-  ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-  const std::filesystem::path& Path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
-
 // The desktop that people run, without a screen and without boxes, driven
-// through the toolkit's own events.
+// through the toolkit's own events. Its files lie in a folder that goes with it.
 class QtUnderTest final : public DesktopUnderTest {
  public:
-  QtUnderTest() : desktop_(ArgumentCount(), Arguments(), {folder_.Path(), kMessages, kScreen}) {}
+  QtUnderTest()
+      : desktop_(argument_count_, arguments_,
+                 {.application_folder = Folder(),
+                  .application = nullptr,
+                  .messages = QtDesktop::Messages::kStandardError,
+                  .screen = QtDesktop::Screen::kNone}) {}
 
   QtDesktop& Get() override { return desktop_; }
-  const std::filesystem::path& Folder() const { return folder_.Path(); }
+  std::filesystem::path Folder() const { return folder_.path().toStdString(); }
 
   void AddFile(const std::string& path, const std::string& bytes) override;
   void Move(std::int32_t x, std::int32_t y) override;
-  void Press() override;
-  void Release() override;
+  void Press() override { Send(QEvent::MouseButtonPress, Qt::LeftButton); }
+  void Release() override { Send(QEvent::MouseButtonRelease, Qt::NoButton); }
   void Settle() override;
+  bool ShowsWindow() override;
 
  private:
-  static constexpr auto kMessages = QtDesktop::Messages::kStandardError;
-  static constexpr auto kScreen = QtDesktop::Screen::kNone;
+  // Hands the event to the toolkit's window, which finds the widget for it as
+  // it would for a mouse.
+  void Send(QEvent::Type type, Qt::MouseButtons held);
 
-  static int& ArgumentCount();
-  static char** Arguments();
+  static inline int argument_count_ = 1;
+  static inline char name_[] = "host_test";
+  static inline char* arguments_[] = {name_, nullptr};
 
-  TemporaryFolder folder_;
+  QTemporaryDir folder_;
   QtDesktop desktop_;
-  std::int32_t x_ = 0;
-  std::int32_t y_ = 0;
+  QPoint mouse_;
 };
 
 // A suite that runs against both.
@@ -88,5 +87,11 @@ class OnBothDesktops : public testing::TestWithParam<Which> {
 inline auto BothDesktops() { return testing::Values(Which::kMemory, Which::kQt); }
 
 std::string DesktopName(const testing::TestParamInfo<Which>& which);
+
+// Makes the file anew with that text; false if it can't be.
+bool Save(const FolderItem& file, const std::string& text);
+
+// The lines of the file, each in brackets; "none" if it can't be opened.
+std::string LinesOf(const FolderItem& file);
 
 }  // namespace quill::host

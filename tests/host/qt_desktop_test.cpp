@@ -4,9 +4,11 @@
 #include <QApplication>
 #include <QImage>
 #include <QKeyEvent>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
-#include <fstream>
+#include <csignal>
+#include <set>
 
 #include "host/application.h"
 #include "host/controls.h"
@@ -20,100 +22,81 @@ constexpr Color kRed = RGB(255, 0, 0);
 constexpr Color kGreen = RGB(0, 255, 0);
 constexpr Color kGray = RGB(95, 95, 95);
 
-class Painting final : public Canvas {
- public:
+void Fill(Graphics& pen, Color color, const Rect& area) {
+  pen.ForeColor = color;
+  pen.FillRect(area);
+}
+
+struct Painting final : Canvas {
   using Canvas::Canvas;
   void Event_Paint() override {
     if (fails) throw OutOfBoundsException();
   }
-  void Fill(Color color, const Rect& area) {
-    GetGraphics().ForeColor = color;
-    GetGraphics().FillRect(area);
-  }
   bool Event_MouseDown(std::int32_t x, std::int32_t y) override { return pressed = x > 0 && y > 0; }
-  void Say(const std::string& label) { Peer().SetLabel(label); }
 
   bool fails = false;
   bool pressed = false;
 };
 
-class PaintedWindow final : public Window {
- public:
-  PaintedWindow()
-      : Window({"painted", 100, 50, WindowStyle::Frame::kDocument, kGray}),
-        canvas(AddControl<Painting>(nullptr, Rect{0, 0, 80, 50})),
-        child(AddControl<Painting>(&canvas, Rect{40, 0, 20, 50})) {}
+constexpr auto kPlain = WindowStyle::Frame::kDocument;
 
-  Painting& canvas;
-  Painting& child;
+struct PaintedWindow final : Window {
+  explicit PaintedWindow(WindowStyle::Frame frame = kPlain, bool close_button = false)
+      : Window({"painted", 100, 50, frame, kGray, close_button}) {}
+
+  Painting& canvas = AddControl<Painting>(nullptr, Rect{0, 0, 80, 50});
+  Painting& child = AddControl<Painting>(&canvas, Rect{40, 0, 20, 50});
 };
+
+QImage Saved(QtUnderTest& under_test, Window& window) {
+  const auto path = under_test.Folder() / "screen.png";
+  EXPECT_TRUE(under_test.Get().SaveScreen(window, path));
+  EXPECT_FALSE(under_test.Get().SaveScreen(window, path / "not in a file"));
+  return QImage(path.c_str());
+}
 
 class QtDesktopTest : public testing::Test {
  protected:
-  QImage Saved(Window& window) {
-    const auto path = under_test_.Folder() / "screen.png";
-    EXPECT_TRUE(under_test_.Get().SaveScreen(window, path));
-    return QImage(QString::fromStdString(path.string()));
-  }
-
   // The colours at these points, as "#rrggbb" each.
-  std::string Colors(Window& window, std::initializer_list<QPoint> points) {
-    const QImage image = Saved(window);
+  std::string Colors(std::initializer_list<QPoint> points) {
+    const QImage image = Saved(under_test_, window_);
     std::string colors;
-    for (const QPoint& point : points) {
-      colors += (colors.empty() ? "" : " ") + image.pixelColor(point).name().toStdString();
-    }
+    for (const QPoint& point : points) colors += image.pixelColor(point).name().toStdString();
     return colors;
   }
 
   QtUnderTest under_test_;
+  PaintedWindow window_;
+  Painting& canvas_ = window_.canvas;
+  Painting& child_ = window_.child;
 };
 
 TEST_F(QtDesktopTest, LayersLieInOrder) {
-  PaintedWindow window;
-  EXPECT_EQ(Colors(window, {{5, 5}, {90, 5}}), "#5f5f5f #5f5f5f") << "nothing drawn: the window shows";
   const auto backdrop = NewPicture(80, 25, 16);
-  window.canvas.SetBackdrop(backdrop);
-  EXPECT_EQ(Colors(window, {{5, 24}, {5, 25}, {45, 5}}), "#000000 #5f5f5f #000000");
-  GraphicsOf(backdrop)->ForeColor = kRed;
-  GraphicsOf(backdrop)->FillRect({0, 0, 80, 25});
-  EXPECT_EQ(Colors(window, {{5, 24}}), "#ff0000") << "drawn into the backdrop later";
-  window.canvas.Fill(kGreen, {0, 0, 60, 10});
-  window.child.Fill(kWhite, {-1, -1, 11, 51});
-  EXPECT_EQ(Colors(window, {{39, 5}, {40, 5}, {49, 5}, {50, 5}, {39, 15}}),
-            "#00ff00 #ffffff #ffffff #00ff00 #ff0000");
-  window.child.SetWidth(19);
-  EXPECT_EQ(Colors(window, {{40, 5}}), "#00ff00") << "a change of size drops the drawing";
-  window.canvas.SetBackdrop(nullptr);
-  window.canvas.SetVisible(false);
-  EXPECT_EQ(Colors(window, {{5, 5}}), "#5f5f5f");
-}
-
-TEST_F(QtDesktopTest, AShownBackdropFollowsItsPicture) {
-  PaintedWindow window;
-  const auto backdrop = NewPicture(80, 50, 16);
-  window.canvas.SetBackdrop(backdrop);
-  window.Open();
+  canvas_.SetBackdrop(backdrop);
+  EXPECT_EQ(Colors({{5, 24}, {5, 25}, {45, 5}, {90, 5}}), "#000000#5f5f5f#000000#5f5f5f");
+  window_.Open();
   under_test_.Settle();
-  GraphicsOf(backdrop)->ForeColor = kRed;
-  GraphicsOf(backdrop)->DrawLine(0, 7, 79, 7);
-  EXPECT_EQ(Colors(window, {{0, 7}, {79, 7}, {0, 6}, {0, 8}, {80, 7}}),
-            "#ff0000 #ff0000 #000000 #000000 #5f5f5f");
+  Fill(*GraphicsOf(backdrop), kRed, {0, 0, 80, 25});
+  EXPECT_EQ(Colors({{0, 24}, {79, 24}, {80, 24}}), "#ff0000#ff0000#5f5f5f") << "drawn into later";
+  Fill(canvas_.GetGraphics(), kGreen, {0, 0, 60, 10});
+  Fill(child_.GetGraphics(), kWhite, {-1, -1, 11, 51});
+  EXPECT_EQ(Colors({{40, 5}, {49, 5}, {50, 5}, {39, 15}}), "#ffffff#ffffff#00ff00#ff0000");
+  child_.SetWidth(19);
+  EXPECT_EQ(Colors({{40, 5}}), "#00ff00") << "a change of size drops the drawing";
 }
 
 TEST_F(QtDesktopTest, TextStandsOnItsBaseLineAsWideAsMeasured) {
-  PaintedWindow window;
   const auto picture = NewPicture(80, 50, 16);
-  window.canvas.SetBackdrop(picture);
+  canvas_.SetBackdrop(picture);
   const auto pen = GraphicsOf(picture);
   pen->ForeColor = kWhite;
   pen->DrawString("HHH\tH", 10, 30);
-  const QImage image = Saved(window);
+  const QImage image = Saved(under_test_, window_);
   QRect ink;
-  for (int y = 0; y < 50; ++y) {
-    for (int x = 0; x < 80; ++x) {
-      if (image.pixelColor(x, y).lightness() > 60) ink |= QRect(x, y, 1, 1);
-    }
+  for (int at = 0; at < 80 * 50; ++at) {
+    const QPoint point(at % 80, at / 80);
+    if (image.pixelColor(point).lightness() > 60) ink |= QRect(point, QSize(1, 1));
   }
   EXPECT_EQ(ink.bottom(), 29) << "the base line lies below the last row of an H";
   EXPECT_NEAR(ink.left(), 11, 1);
@@ -121,40 +104,27 @@ TEST_F(QtDesktopTest, TextStandsOnItsBaseLineAsWideAsMeasured) {
 }
 
 TEST_F(QtDesktopTest, ALabelMakesACanvasAButtonForTheBlind) {
-  PaintedWindow window;
-  window.Open();
-  QAccessibleInterface* const screen = QAccessible::queryAccessibleInterface(
+  auto* const screen = QAccessible::queryAccessibleInterface(
       QApplication::topLevelWidgets().front()->findChildren<QWidget*>().back());
-  ASSERT_NE(screen, nullptr);
   EXPECT_EQ(screen->role(), QAccessible::Pane);
-  window.child.Say("caf\x8E & bar");
+  child_.SetLabel("caf\x8E & bar");
   EXPECT_EQ(screen->role(), QAccessible::Button);
-  EXPECT_EQ(screen->text(QAccessible::Name), QString::fromUtf8("caf\xC3\xA9 & bar"));
+  EXPECT_EQ(screen->text(QAccessible::Name).toStdString(), "caf\xC3\xA9 & bar");
   screen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_TRUE(window.child.pressed);
-}
-
-TEST_F(QtDesktopTest, AFolderThatIsNotThereTakesNoScreen) {
-  PaintedWindow window;
-  EXPECT_FALSE(under_test_.Get().SaveScreen(window, under_test_.Folder() / "none" / "screen.png"));
+  EXPECT_TRUE(child_.pressed);
 }
 
 TEST(QtDensity, MetricsDoNotDependOnIt) {
-  double width = 0;
+  std::set<double> widths;
   for (const char* scale : {"1", "1.5", "2"}) {
     qputenv("QT_SCALE_FACTOR", scale);
     QtUnderTest under_test;
     qunsetenv("QT_SCALE_FACTOR");
-    const double measured =
-        under_test.Get().Metrics().StringWidth({"", 12, true}, "A measured line, so to say.");
-    if (width == 0) width = measured;
-    EXPECT_EQ(measured, width) << scale;
+    widths.insert(under_test.Get().Metrics().StringWidth({"", 12, true}, "A measured line, so to say."));
     PaintedWindow window;
-    const auto path = under_test.Folder() / "screen.png";
-    EXPECT_TRUE(under_test.Get().SaveScreen(window, path));
-    EXPECT_EQ(QImage(QString::fromStdString(path.string())).width(), 100 * std::stod(scale)) << scale;
-    EXPECT_EQ(NewPicture(33, 11, 16)->Width(), 33) << scale;
+    EXPECT_EQ(Saved(under_test, window).width(), 100 * std::stod(scale)) << scale;
   }
+  EXPECT_EQ(widths.size(), 1u);
 }
 
 TEST_F(QtDesktopTest, TheVersionIsTheTextInTheBundle) {
@@ -163,43 +133,65 @@ TEST_F(QtDesktopTest, TheVersionIsTheTextInTheBundle) {
   EXPECT_EQ(Application().LongVersion(), "1.2 beta");
 }
 
-TEST_F(QtDesktopTest, QuitBeforeTheLoopKeepsItFromBeginning) {
+constexpr int kRunsOn = 7;
+
+// The status with which the program ends; `kRunsOn` if it doesn't in that time.
+int StatusOf(QtUnderTest& under_test, int milliseconds) {
   Application application;
+  application.SetMenuBar(std::make_shared<MenuBar>());
+  QTimer::singleShot(milliseconds, qApp, [] { Quit(kRunsOn); });
+  return under_test.Get().Run(application);
+}
+
+TEST_F(QtDesktopTest, QuitBeforeTheLoopKeepsItFromBeginning) {
   Quit(3);
   Quit(0);
-  EXPECT_EQ(under_test_.Get().Run(application), 3);
+  EXPECT_EQ(StatusOf(under_test_, 0), 3);
 }
 
 TEST_F(QtDesktopTest, AnExceptionOutOfAnEventEndsTheProgram) {
-  Application application;
-  PaintedWindow window;
-  window.canvas.fails = true;
-  window.child.fails = true;
-  window.Open();
+  canvas_.fails = child_.fails = true;
+  window_.Open();
   testing::internal::CaptureStderr();
-  EXPECT_EQ(under_test_.Get().Run(application), 1);
+  EXPECT_EQ(StatusOf(under_test_, 5000), 1);
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "Quillmere has to stop: out of bounds\n");
 }
 
-TEST_F(QtDesktopTest, CtrlQEndsTheProgram) {
-  Application application;
-  application.SetMenuBar(std::make_shared<MenuBar>());
-  PaintedWindow window;
-  window.Open();
-  under_test_.Settle();
-  QWindow* const shown = QGuiApplication::topLevelWindows().front();
-  QCoreApplication::postEvent(shown, new QKeyEvent(QEvent::KeyPress, Qt::Key_Q, Qt::ControlModifier));
-  EXPECT_EQ(under_test_.Get().Run(application), 0);
+TEST(QtEnd, WhatTheUserMayClose) {
+  struct Row {
+    const char* story;
+    WindowStyle::Frame frame;
+    bool close_button;
+    int key, status;  // no key: the window manager asks
+    bool open;
+  };
+  constexpr auto kDialog = WindowStyle::Frame::kDialog;
+  for (const Row& row :
+       {Row{"main", kPlain, false, 0, 0, true}, Row{"main, Ctrl+Q", kPlain, false, Qt::Key_Q, 0, true},
+        Row{"main, Escape", kPlain, false, Qt::Key_Escape, kRunsOn, true},
+        Row{"with a button", kPlain, true, 0, kRunsOn, false},
+        Row{"dialog", kDialog, false, 0, kRunsOn, false},
+        Row{"dialog, Escape", kDialog, false, Qt::Key_Escape, kRunsOn, false}}) {
+    QtUnderTest under_test;
+    PaintedWindow window(row.frame, row.close_button);
+    window.Open();
+    under_test.Settle();
+    const auto held = row.key == Qt::Key_Q ? Qt::ControlModifier : Qt::NoModifier;
+    QWindow* const shown = QGuiApplication::topLevelWindows().front();
+    QCoreApplication::postEvent(shown, new QKeyEvent(QEvent::KeyPress, row.key, held));
+    if (row.key == 0) QCoreApplication::postEvent(shown, new QCloseEvent);
+    EXPECT_EQ(StatusOf(under_test, 0), row.status) << row.story;
+    EXPECT_EQ(window.IsOpen(), row.open) << row.story;
+    EXPECT_EQ(under_test.ShowsWindow(), row.open) << row.story;
+  }
 }
 
-TEST_F(QtDesktopTest, TheCloseRequestEndsTheProgram) {
-  Application application;
-  PaintedWindow window;
-  window.Open();
-  under_test_.Settle();
-  QMetaObject::invokeMethod(
-      qApp, [] { QGuiApplication::topLevelWindows().front()->close(); }, Qt::QueuedConnection);
-  EXPECT_EQ(under_test_.Get().Run(application), 0);
+TEST(QtEnd, TheSessionsSignalsEndTheProgram) {
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+    QtUnderTest under_test;
+    QTimer::singleShot(0, qApp, [signal] { std::raise(signal); });
+    EXPECT_EQ(StatusOf(under_test, 5000), 0) << signal;
+  }
 }
 
 }  // namespace

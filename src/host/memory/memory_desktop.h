@@ -18,11 +18,13 @@ class MemoryDesktop final : public Desktop {
   void MsgBox(const std::string& text) override { messages.push_back(text); }
   void Quit(std::int32_t code) override { quit_code = code; }
   std::shared_ptr<FolderItem> ApplicationFolder() override;
+  std::shared_ptr<FolderItem> PreferencesFolder() override;
+  bool OpenDocument(const std::string& application, const std::string& path) override;
   std::string LongVersion() override { return version; }
   FixedMetrics& Metrics() override { return metrics; }
   std::shared_ptr<Picture> NewPicture(std::int32_t width, std::int32_t height, std::int32_t depth) override;
   std::shared_ptr<Picture> StoredPicture(std::int32_t id) override;
-  std::unique_ptr<WindowPeer> NewWindow(const WindowStyle& style) override;
+  std::unique_ptr<WindowPeer> NewWindow(const WindowStyle& style, Window& window) override;
 
   // The message boxes shown so far.
   std::vector<std::string> messages;
@@ -30,6 +32,14 @@ class MemoryDesktop final : public Desktop {
 
   // The folder that holds the bundle is the root of these files.
   MemoryFiles files;
+
+  // The folder of preferences is "preferences" there.
+  bool no_preferences_folder = false;
+
+  // What was handed to which application ("QLD7 Data/outline.pdf"), in order.
+  std::vector<std::string> opened_documents;
+  bool no_applications = false;  // none can be started
+
   std::string version = "1.2.3";
   FixedMetrics metrics;
 

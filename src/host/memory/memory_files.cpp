@@ -24,13 +24,32 @@ class MemoryStream final : public BinaryStream {
   std::size_t at_ = 0;
 };
 
+class MemoryOutput final : public TextOutputStream {
+ public:
+  MemoryOutput(MemoryFiles& files, std::string path) : files_(files), path_(std::move(path)) {}
+
+  void Write(const std::string& text) override { text_ += text; }
+
+  bool Close() override {
+    files_.AddFile(path_, text_);
+    return true;
+  }
+
+ private:
+  MemoryFiles& files_;
+  std::string path_;
+  std::string text_;
+};
+
 }  // namespace
 
 class MemoryItem final : public FolderItem {
  public:
-  MemoryItem(const MemoryFiles& files, std::string path) : files_(files), path_(std::move(path)) {}
+  MemoryItem(MemoryFiles& files, std::string path) : files_(files), path_(std::move(path)) {}
 
   std::string Name() const override { return path_.substr(path_.rfind('/') + 1); }
+
+  std::string Path() const override { return path_; }
 
   bool Exists() const override {
     if (path_.empty() || files_.files_.contains(path_)) return true;
@@ -51,12 +70,22 @@ class MemoryItem final : public FolderItem {
     return std::make_unique<MemoryStream>(file->second);
   }
 
+  std::unique_ptr<TextOutputStream> Create(Readers /*readers*/) const override {
+    if (files_.refused_.contains(path_)) return nullptr;
+    return std::make_unique<MemoryOutput>(files_, path_);
+  }
+
  private:
-  const MemoryFiles& files_;
+  MemoryFiles& files_;
   std::string path_;
 };
 
-std::shared_ptr<FolderItem> MemoryFiles::Item(const std::string& path) const {
+std::string MemoryFiles::Bytes(const std::string& path) const {
+  const auto file = files_.find(path);
+  return file == files_.end() ? std::string() : file->second;
+}
+
+std::shared_ptr<FolderItem> MemoryFiles::Item(const std::string& path) {
   return std::make_shared<MemoryItem>(*this, path);
 }
 

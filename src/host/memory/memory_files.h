@@ -21,9 +21,15 @@ class MemoryFiles {
   // From now on the file at `path` exists but can't be opened.
   void Lock(const std::string& path) { locked_.insert(path); }
 
+  // From now on no file can be made at `path`, nor anew.
+  void Refuse(const std::string& path) { refused_.insert(path); }
+
+  // The bytes at `path`; empty if nothing is there.
+  std::string Bytes(const std::string& path) const;
+
   // The item at `path`, the root for the empty one. It sees later changes and
   // must not outlive this object.
-  std::shared_ptr<FolderItem> Item(const std::string& path) const;
+  std::shared_ptr<FolderItem> Item(const std::string& path);
 
   // Paths that were opened, in order.
   const std::vector<std::string>& Opened() const { return opened_; }
@@ -33,7 +39,8 @@ class MemoryFiles {
 
   std::map<std::string, std::string> files_;
   std::set<std::string> locked_;
-  mutable std::vector<std::string> opened_;
+  std::set<std::string> refused_;
+  std::vector<std::string> opened_;
 };
 
 }  // namespace quill::host

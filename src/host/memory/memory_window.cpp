@@ -3,7 +3,6 @@
 #include <algorithm>
 
 namespace quill::host {
-namespace {}  // namespace
 
 // What the peers of all kinds of control share: the record of one of them.
 class MemoryPeerBase {
@@ -69,6 +68,14 @@ class MemoryCheckBoxPeer final : public MemoryPeer<CheckBoxPeer> {
   void SetValue(bool value) override { control_.checked = value; }
 };
 
+class MemoryEditPeer final : public MemoryPeer<EditFieldPeer> {
+ public:
+  MemoryEditPeer(std::shared_ptr<MemoryScreen> screen, ControlPeer* parent)
+      : MemoryPeer(std::move(screen), parent, MemoryControl::Kind::kEditField) {}
+  void SetText(const std::string& text) override { control_.text = text; }
+  std::string Text() override { return control_.text; }
+};
+
 struct Point {
   std::int64_t x;
   std::int64_t y;
@@ -101,6 +108,8 @@ std::string KindName(const MemoryControl& control) {
       return "text";
     case MemoryControl::Kind::kCheckBox:
       return "check";
+    case MemoryControl::Kind::kEditField:
+      return "field";
   }
   return {};
 }
@@ -177,6 +186,12 @@ bool MemoryScreen::ClickLabel(const std::string& label) {
   return false;
 }
 
+void MemoryScreen::Type(const std::string& text) {
+  for (MemoryControl* control : controls) {
+    if (control->kind == MemoryControl::Kind::kEditField) control->text = text;
+  }
+}
+
 std::string MemoryScreen::Dump() const {
   std::string dump;
   for (const MemoryControl* control : controls) {
@@ -200,6 +215,11 @@ std::unique_ptr<StaticTextPeer> MemoryWindow::NewStaticText(const TextStyle& /*s
 std::unique_ptr<CheckBoxPeer> MemoryWindow::NewCheckBox(CheckBox& box, const std::string& caption,
                                                         const TextFace& /*face*/, ControlPeer* parent) {
   return std::make_unique<MemoryCheckBoxPeer>(screen_, parent, box, caption);
+}
+
+std::unique_ptr<EditFieldPeer> MemoryWindow::NewEditField(const TextStyle& /*style*/, Color /*back_color*/,
+                                                          ControlPeer* parent) {
+  return std::make_unique<MemoryEditPeer>(screen_, parent);
 }
 
 }  // namespace quill::host

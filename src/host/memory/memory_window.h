@@ -15,14 +15,14 @@ class MemoryWindow;
 
 // What a control would show. Kept by the window as long as the control lives.
 struct MemoryControl {
-  enum class Kind { kCanvas, kText, kCheckBox };
+  enum class Kind { kCanvas, kText, kCheckBox, kEditField };
 
   Kind kind = Kind::kCanvas;
   const MemoryControl* parent = nullptr;  // null: the window itself
   Rect frame;                             // in its parent
   bool visible = true;
   bool enabled = true;
-  std::string text;  // of a text or check box; the label of a canvas
+  std::string text;  // of a text, check box or field; the label of a canvas
   bool checked = false;
   Canvas* canvas = nullptr;
   CheckBox* box = nullptr;
@@ -36,8 +36,9 @@ class MemoryScreen {
  public:
   Rect frame = {100, 50, 0, 0};  // where the desktop put the window
   WindowStyle style;
-  bool shown = false;
-  bool closed = false;
+  Window* window = nullptr;  // null when it has gone
+  bool shown = false;        // and not hidden since
+  bool closed = false;       // the window has gone
 
   // Controls in the order they were made, the last on top, whoever their parent
   // is.
@@ -56,6 +57,12 @@ class MemoryScreen {
   // Clicks in the middle of the visible canvas with that label; false if there
   // is none.
   bool ClickLabel(const std::string& label);
+
+  // The user closes the window by its box, or the window manager does.
+  void CloseBox() { window->Close(); }
+
+  // Puts `text` into the window's one edit field, as if typed.
+  void Type(const std::string& text);
 
   // A line for each visible control with a label or text, in order:
   //   button "Exit" 587,437 40x24
@@ -80,14 +87,24 @@ class MemoryWindow final : public WindowPeer {
  public:
   MemoryWindow(std::shared_ptr<MemoryScreen> screen, FontMetrics& metrics)
       : screen_(std::move(screen)), metrics_(metrics) {}
-  ~MemoryWindow() override { screen_->closed = true; }
+  ~MemoryWindow() override {
+    screen_->closed = true;
+    screen_->window = nullptr;
+  }
 
   std::unique_ptr<CanvasPeer> NewCanvas(Canvas& canvas, ControlPeer* parent) override;
   std::unique_ptr<StaticTextPeer> NewStaticText(const TextStyle& style, ControlPeer* parent) override;
   std::unique_ptr<CheckBoxPeer> NewCheckBox(CheckBox& box, const std::string& caption, const TextFace& face,
                                             ControlPeer* parent) override;
+  std::unique_ptr<EditFieldPeer> NewEditField(const TextStyle& style, Color back_color,
+                                              ControlPeer* parent) override;
   Rect Frame() const override { return screen_->frame; }
+  void MoveTo(std::int32_t left, std::int32_t top) override {
+    screen_->frame.left = left;
+    screen_->frame.top = top;
+  }
   void Show() override { screen_->shown = true; }
+  void Hide() override { screen_->shown = false; }
 
  private:
   std::shared_ptr<MemoryScreen> screen_;

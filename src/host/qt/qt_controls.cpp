@@ -6,34 +6,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/qt/qt_peer.h"
+
 namespace quill::host {
 namespace {
-
-// Gives the toolkit's widget to those who only know a control's peer.
-class WidgetHolder {
- public:
-  virtual ~WidgetHolder() = default;
-  virtual QWidget* Widget() = 0;
-};
-
-// What the peers of all kinds of control share.
-template <typename Interface, typename Shown>
-class QtPeer : public Interface, public WidgetHolder {
- public:
-  explicit QtPeer(Shown* widget) : widget_(widget) {}
-  ~QtPeer() override {
-    widget_->hide();
-    widget_->deleteLater();
-  }
-
-  void Place(const Rect& frame) override { widget_->setGeometry(ToQRect(frame)); }
-  void SetVisible(bool visible) override { widget_->setVisible(visible); }
-  void SetEnabled(bool enabled) override { widget_->setEnabled(enabled); }
-  QWidget* Widget() override { return widget_; }
-
- protected:
-  Shown* widget_;  // owned by its parent widget
-};
 
 class QtCanvas final : public QtPeer<CanvasPeer, CanvasWidget> {
  public:

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QPainter>
+#include <QStandardPaths>
 #include <QSvgRenderer>
 #include <algorithm>
 #include <array>
@@ -14,10 +15,12 @@
 
 #include "host/application.h"
 #include "host/controls.h"
-#include "host/disk_files.h"
 #include "host/qt/qt_accessible.h"
 #include "host/qt/qt_application.h"
+#include "host/qt/qt_documents.h"
+#include "host/qt/qt_files.h"
 #include "host/qt/qt_graphics.h"
+#include "host/qt/qt_signals.h"
 #include "host/qt/qt_text.h"
 #include "host/qt/qt_window.h"
 #include "host/text.h"
@@ -129,6 +132,7 @@ QtDesktop::~QtDesktop() { QCoreApplication::sendPostedEvents(nullptr, QEvent::De
 int QtDesktop::Run(Application& application) {
   parts_->has_commands = application.GetMenuBar() != nullptr;
   if (parts_->quit_code) return *parts_->quit_code;
+  const SessionSignals session([this] { Quit(0); });
   return QApplication::exec();
 }
 
@@ -141,8 +145,18 @@ void QtDesktop::MsgBox(const std::string& text) { parts_->Say(text); }
 void QtDesktop::Quit(std::int32_t code) { parts_->Quit(code); }
 
 std::shared_ptr<FolderItem> QtDesktop::ApplicationFolder() {
+  if (parts_->options.application) return parts_->options.application;
   const std::filesystem::path& given = parts_->options.application_folder;
   return DiskItem(given.empty() ? ExecutableFolder() : given);
+}
+
+std::shared_ptr<FolderItem> QtDesktop::PreferencesFolder() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  return folder.isEmpty() ? nullptr : DiskItem(folder.toStdString());
+}
+
+bool QtDesktop::OpenDocument(const std::string& application, const std::string& path) {
+  return StartApplication(application, path);
 }
 
 std::string QtDesktop::LongVersion() {
@@ -174,8 +188,8 @@ std::shared_ptr<Picture> QtDesktop::StoredPicture(std::int32_t id) {
   return std::make_shared<QtPicture>(parts_->metrics, std::move(image), size.width(), size.height());
 }
 
-std::unique_ptr<WindowPeer> QtDesktop::NewWindow(const WindowStyle& style) {
-  return std::make_unique<QtWindow>(style, parts_->metrics, [this] {
+std::unique_ptr<WindowPeer> QtDesktop::NewWindow(const WindowStyle& style, Window& window) {
+  return std::make_unique<QtWindow>(style, window, parts_->metrics, [this] {
     if (parts_->has_commands) Quit(0);
   });
 }

@@ -35,6 +35,8 @@ class QtDesktop final : public Desktop {
     // The folder that holds the bundle; empty for the one that holds the
     // executable, wherever it was started from.
     std::filesystem::path application_folder;
+    // The same as an item that a tool has made itself; it wins over the path.
+    std::shared_ptr<FolderItem> application;
     Messages messages = Messages::kBox;
     Screen screen = Screen::kSession;
   };
@@ -62,11 +64,13 @@ class QtDesktop final : public Desktop {
   void MsgBox(const std::string& text) override;
   void Quit(std::int32_t code) override;
   std::shared_ptr<FolderItem> ApplicationFolder() override;
+  std::shared_ptr<FolderItem> PreferencesFolder() override;
+  bool OpenDocument(const std::string& application, const std::string& path) override;
   std::string LongVersion() override;
   FontMetrics& Metrics() override;
   std::shared_ptr<Picture> NewPicture(std::int32_t width, std::int32_t height, std::int32_t depth) override;
   std::shared_ptr<Picture> StoredPicture(std::int32_t id) override;
-  std::unique_ptr<WindowPeer> NewWindow(const WindowStyle& style) override;
+  std::unique_ptr<WindowPeer> NewWindow(const WindowStyle& style, Window& window) override;
 
  private:
   struct Parts;

@@ -9,13 +9,16 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/controls.h"
 #include "host/desktop.h"
 #include "host/qt/qt_controls.h"
+#include "host/qt/qt_edit_field.h"
 
 namespace quill::host {
 namespace {
 
 constexpr auto kDialog = WindowStyle::Frame::kDialog;
+constexpr int kSmallest = 64;  // side of a window that can be resized
 
 Qt::WindowFlags FlagsOf(const WindowStyle& style) {
   Qt::WindowFlags flags = style.frame == kDialog ? Qt::Dialog : Qt::Window;
@@ -39,55 +42,78 @@ void Center(QWidget& widget, const QRect& place) {
   widget.move(std::max(frame.left(), place.left()), std::max(frame.top(), place.top()));
 }
 
-// The window that a dialog belongs to: the one that is open already.
-WindowWidget* OwnerOf(const QWidget& dialog) {
-  for (QWidget* const other : QApplication::topLevelWidgets()) {
-    auto* const window = dynamic_cast<WindowWidget*>(other);
-    if (window != nullptr && window != &dialog && window->isVisible()) return window;
+// The main window, if it is on the screen.
+WindowWidget* MainWindow() {
+  for (QWidget* const widget : QApplication::topLevelWidgets()) {
+    auto* const window = dynamic_cast<WindowWidget*>(widget);
+    if (window != nullptr && window->IsMain() && window->isVisible()) return window;
   }
   return nullptr;
 }
 
 // A dialog stays above its owner, which doesn't own it in memory.
 void KeepAbove(QWidget& dialog, const QWidget& owner) {
-  Center(dialog, owner.geometry());
   dialog.winId();  // makes its window
   dialog.windowHandle()->setTransientParent(owner.windowHandle());
 }
 
 }  // namespace
 
-WindowWidget::WindowWidget(const WindowStyle& style, std::function<void()> quit_command)
-    : QWidget(nullptr, FlagsOf(style)), style_(style), quit_command_(std::move(quit_command)) {
+WindowWidget::WindowWidget(const WindowStyle& style, Window& window, std::function<void()> quit_command)
+    : QWidget(nullptr, FlagsOf(style)),
+      style_(style),
+      window_(&window),
+      quit_command_(std::move(quit_command)) {
   QPalette colors = palette();
   colors.setColor(QPalette::Window, ToQColor(style.back_color));
   setPalette(colors);
   setWindowTitle(LineOfText(style.title));
   resize(style.width, style.height);
-  if (!style.resizeable) setFixedSize(style.width, style.height);
+  if (style.resizeable) {
+    setMinimumSize(kSmallest, kSmallest);
+  } else {
+    setFixedSize(style.width, style.height);
+  }
   Center(*this, screen()->availableGeometry());
 }
 
+bool WindowWidget::IsMain() const { return style_.frame != kDialog && !style_.close_button; }
+
+void WindowWidget::Retire() {
+  window_ = nullptr;
+  hide();
+  deleteLater();
+}
+
+void WindowWidget::CloseWindow() {
+  if (IsMain()) {
+    Quit(0);
+  } else if (window_ != nullptr) {
+    window_->Close();
+  }
+}
+
+// The window hides itself when it is closed.
 void WindowWidget::closeEvent(QCloseEvent* event) {
-  event->setAccepted(style_.frame == kDialog && style_.close_button);
-  if (style_.frame != kDialog) Quit(0);
+  event->ignore();
+  CloseWindow();
 }
 
 void WindowWidget::keyPressEvent(QKeyEvent* event) {
   if (IsQuitKey(*event)) {
     quit_command_();
+  } else if (style_.frame == kDialog && event->key() == Qt::Key_Escape) {
+    CloseWindow();
   } else {
     QWidget::keyPressEvent(event);
   }
 }
 
-QtWindow::QtWindow(const WindowStyle& style, QtMetrics& metrics, std::function<void()> quit_command)
-    : widget_(new WindowWidget(style, std::move(quit_command))), metrics_(metrics) {}
+QtWindow::QtWindow(const WindowStyle& style, Window& window, QtMetrics& metrics,
+                   std::function<void()> quit_command)
+    : widget_(new WindowWidget(style, window, std::move(quit_command))), metrics_(metrics) {}
 
-QtWindow::~QtWindow() {
-  widget_->hide();
-  widget_->deleteLater();
-}
+QtWindow::~QtWindow() { widget_->Retire(); }
 
 QWidget& QtWindow::ParentWidget(ControlPeer* parent) const {
   QWidget* const control = WidgetOf(parent);
@@ -107,15 +133,24 @@ std::unique_ptr<CheckBoxPeer> QtWindow::NewCheckBox(CheckBox& box, const std::st
   return NewCheckBoxPeer(box, caption, face, metrics_, ParentWidget(parent));
 }
 
+std::unique_ptr<EditFieldPeer> QtWindow::NewEditField(const TextStyle& style, Color back_color,
+                                                      ControlPeer* parent) {
+  return NewEditPeer(style, back_color, metrics_, ParentWidget(parent));
+}
+
 Rect QtWindow::Frame() const {
   const QRect content = widget_->geometry();
   return {content.x(), content.y(), content.width(), content.height()};
 }
 
+void QtWindow::MoveTo(std::int32_t left, std::int32_t top) {
+  widget_->setGeometry(QRect(QPoint(left, top), widget_->size()));
+}
+
 void QtWindow::Show() {
   const bool shown_already = widget_->isVisible();
   const bool opens_dialog = widget_->windowType() == Qt::Dialog && !shown_already;
-  if (const auto* const owner = opens_dialog ? OwnerOf(*widget_) : nullptr) KeepAbove(*widget_, *owner);
+  if (const auto* const owner = opens_dialog ? MainWindow() : nullptr) KeepAbove(*widget_, *owner);
   widget_->show();
   if (shown_already) widget_->raise();  // a new one comes in front by itself
   widget_->activateWindow();

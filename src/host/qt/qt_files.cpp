@@ -1,5 +1,8 @@
-#include "host/disk_files.h"
+#include "host/qt/qt_files.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
 #include <fstream>
 #include <utility>
 
@@ -26,11 +29,38 @@ class DiskStream final : public BinaryStream {
   std::uint64_t length_;
 };
 
+// Writes beside the old file, and puts the new one in its place when all of it
+// is on the disk.
+class DiskOutput final : public TextOutputStream {
+ public:
+  explicit DiskOutput(const std::filesystem::path& path) : file_(QString::fromStdString(path.string())) {}
+
+  bool Open(bool for_owner_alone) {
+    QDir().mkpath(QFileInfo(file_.fileName()).path());
+    if (!file_.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return false;
+    return !for_owner_alone || file_.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+  }
+
+  // A write that comes short, as on a full disk, is no failure to the toolkit;
+  // out of its buffer it would even come unseen.
+  void Write(const std::string& text) override {
+    const auto size = static_cast<qint64>(text.size());
+    if (file_.write(text.data(), size) != size) file_.cancelWriting();
+  }
+
+  bool Close() override { return file_.commit(); }
+
+ private:
+  QSaveFile file_;  // remembers failures until it is asked to commit
+};
+
 class DiskFolderItem final : public FolderItem {
  public:
   explicit DiskFolderItem(std::filesystem::path path) : path_(std::move(path)) {}
 
   std::string Name() const override { return path_.filename().string(); }
+
+  std::string Path() const override { return path_.string(); }
 
   bool Exists() const override {
     std::error_code error;
@@ -52,6 +82,12 @@ class DiskFolderItem final : public FolderItem {
     return std::make_unique<DiskStream>(std::move(file), length);
   }
 
+  std::unique_ptr<TextOutputStream> Create(Readers readers) const override {
+    auto output = std::make_unique<DiskOutput>(path_);
+    if (!output->Open(readers == Readers::kOwner)) return nullptr;
+    return output;
+  }
+
  private:
   std::filesystem::path path_;
 };
@@ -59,7 +95,7 @@ class DiskFolderItem final : public FolderItem {
 }  // namespace
 
 std::shared_ptr<FolderItem> DiskItem(const std::filesystem::path& path) {
-  return std::make_shared<DiskFolderItem>(path);
+  return std::make_shared<DiskFolderItem>(std::filesystem::absolute(path));
 }
 
 }  // namespace quill::host

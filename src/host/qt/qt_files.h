@@ -1,5 +1,4 @@
-// The files of the machine's own disk, by the C++ library alone, so that the
-// desktop and the command-line tools share them.
+// The files of the machine's own disk.
 #pragma once
 
 #include <filesystem>
@@ -9,7 +8,8 @@
 
 namespace quill::host {
 
-// The item at `path`, whether or not anything is there.
+// The item at `path`, whether or not anything is there. A relative path counts
+// from the current folder, now and for good.
 std::shared_ptr<FolderItem> DiskItem(const std::filesystem::path& path);
 
 }  // namespace quill::host

@@ -1,0 +1,38 @@
+// The field of several lines: the toolkit's own, with its undo, copy and paste.
+#pragma once
+
+#include <QMargins>
+#include <QPlainTextEdit>
+#include <memory>
+#include <string>
+
+#include "host/peers.h"
+#include "host/qt/qt_text.h"
+
+namespace quill::host {
+
+// Keeps its distances from the four edges of its parent. Text goes in and comes
+// out as bytes: as long as the user changes nothing, exactly those that went in.
+class EditWidget final : public QPlainTextEdit {
+ public:
+  EditWidget(const TextStyle& style, Color back_color, QtMetrics& metrics, QWidget* parent);
+
+  void Place(const Rect& frame);
+
+  // UTF-8. Bytes that aren't come from a file of before there was any: they show
+  // as the Mac Roman that they then were.
+  void SetBytes(const std::string& bytes);
+  std::string Bytes() const;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  std::string given_;
+  QMargins margins_;
+};
+
+std::unique_ptr<EditFieldPeer> NewEditPeer(const TextStyle& style, Color back_color, QtMetrics& metrics,
+                                           QWidget& parent);
+
+}  // namespace quill::host

@@ -1,0 +1,57 @@
+#include "host/qt/qt_signals.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QSocketNotifier>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <utility>
+
+namespace quill::host {
+namespace {
+
+constexpr std::array kSignals = {SIGTERM, SIGINT, SIGHUP};
+
+// A handler may do next to nothing, but it may write: what goes in here at the
+// second end comes out at the first, where the event loop watches.
+std::array<int, 2> wake = {-1, -1};
+
+void Wake(int /*signal*/) {
+  const int kept = errno;
+  const char byte = 0;
+  [[maybe_unused]] const auto written = write(wake[1], &byte, 1);
+  errno = kept;
+}
+
+void SetHandlers(void (*handler)(int)) {
+  struct sigaction action = {};
+  action.sa_handler = handler;
+  action.sa_flags = SA_RESTART;
+  for (const int signal : kSignals) sigaction(signal, &action, nullptr);
+}
+
+}  // namespace
+
+// Without a pipe the signals keep their ways.
+SessionSignals::SessionSignals(std::function<void()> ended) : ended_(std::move(ended)) {
+  if (pipe2(wake.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
+  auto* const notifier = new QSocketNotifier(wake[0], QSocketNotifier::Read, this);
+  connect(notifier, &QSocketNotifier::activated, this, [this] { Take(); });
+  SetHandlers(Wake);
+}
+
+SessionSignals::~SessionSignals() {
+  if (wake[0] < 0) return;
+  SetHandlers(SIG_DFL);
+  for (int& end : wake) close(std::exchange(end, -1));
+}
+
+void SessionSignals::Take() {
+  std::array<char, 16> bytes = {};
+  while (read(wake[0], bytes.data(), bytes.size()) > 0) continue;
+  ended_();
+}
+
+}  // namespace quill::host
