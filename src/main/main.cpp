@@ -1,8 +1,26 @@
 // The reader. It takes no arguments: everything it shows lies in its bundle.
 #include <cstdio>
+#include <exception>
+#include <string>
 
 #include "host/qt/qt_desktop.h"
 #include "main/program.h"
+
+namespace {
+
+// Exceptions in the event loop are the desktop's; these come before it.
+int Read(quill::host::QtDesktop& desktop) {
+  try {
+    quill::Program program;
+    program.DisplayWindow();
+    return desktop.Run(program.App());
+  } catch (const std::exception& failure) {
+    desktop.MsgBox(std::string("Quillmere has to stop: ") + failure.what());
+    return 1;
+  }
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   if (!quill::host::HasDisplay()) {
@@ -10,7 +28,5 @@ int main(int argc, char** argv) {
     return 1;
   }
   quill::host::QtDesktop desktop(argc, argv);
-  quill::Program program;
-  program.DisplayWindow();
-  return desktop.Run(program.App());
+  return Read(desktop);
 }

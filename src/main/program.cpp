@@ -4,27 +4,40 @@
 #include "host/desktop.h"
 
 namespace quill {
-namespace {
-
-// The windows that aren't there yet say so.
-nav::SideWindows SideWindows() {
-  return {[](const std::string&) { host::MsgBox("This version of Quillmere has no glossary window yet."); },
-          [] { host::MsgBox("This version of Quillmere has no notes pad yet."); }};
-}
-
-}  // namespace
-
 Program::Program() {
   app_.SetMenuBar(std::make_shared<app::Menu>());
   app_.Event_Open();
 }
 
+Program::~Program() {
+  if (notes_) notes_->Close();
+}
+
 nav::DisplayWindow& Program::DisplayWindow() {
   if (!viewer_) {
-    viewer_ = std::make_unique<nav::DisplayWindow>(app_, SideWindows());
+    viewer_ = std::make_unique<nav::DisplayWindow>(
+        app_, nav::SideWindows{[this](const std::string& page) { GlossaryWindow().ShowPage(page); },
+                               [this] { FreeAssociation().Show(); }});
     viewer_->Open();
   }
   return *viewer_;
+}
+
+sidewindows::GlossaryWindow& Program::GlossaryWindow() {
+  if (!glossary_ || !glossary_->IsOpen()) {
+    const nav::DisplayWindow& viewer = DisplayWindow();
+    glossary_ = std::make_unique<sidewindows::GlossaryWindow>(app_, viewer, viewer);
+    glossary_->Open();
+  }
+  return *glossary_;
+}
+
+sidewindows::FreeAssociation& Program::FreeAssociation() {
+  if (!notes_ || !notes_->IsOpen()) {
+    notes_ = std::make_unique<sidewindows::FreeAssociation>();
+    notes_->Open();
+  }
+  return *notes_;
 }
 
 }  // namespace quill

@@ -7,6 +7,8 @@
 #include "app/app.h"
 #include "app/file_types.h"
 #include "nav/display_window.h"
+#include "sidewindows/free_association.h"
+#include "sidewindows/glossary_window.h"
 
 namespace quill {
 
@@ -16,9 +18,16 @@ class Program {
   // menu bar and raises its Open event, on which every window relies.
   Program();
 
+  // Closes the notes pad, which saves the notes.
+  ~Program();
+
   // The viewer: the one that is open, or a new one, which then opens on the
   // first page.
   nav::DisplayWindow& DisplayWindow();
+
+  // The glossary, the notes pad: the window that is open, or a new one.
+  sidewindows::GlossaryWindow& GlossaryWindow();
+  sidewindows::FreeAssociation& FreeAssociation();
 
   app::App& App() { return app_; }
 
@@ -26,6 +35,8 @@ class Program {
   app::FileTypes file_types_;
   app::App app_;
   std::unique_ptr<nav::DisplayWindow> viewer_;
+  std::unique_ptr<sidewindows::GlossaryWindow> glossary_;
+  std::unique_ptr<sidewindows::FreeAssociation> notes_;
 };
 
 }  // namespace quill

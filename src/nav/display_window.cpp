@@ -106,7 +106,11 @@ void DisplayWindow::LinkButton_IsPushed(TextButton& button) {
   const std::string page = button.GetPage();
   switch (button.GetLinkType()) {
     case link_type::kDocument:
-      host::MsgBox("This version of Quillmere can't open documents yet.");
+      if (app_.mode == app::kWgaMode) {
+        ShowPDF(button.GetFilename());
+      } else {
+        ShowDocument(button.GetFilename());
+      }
       break;
     case link_type::kPage:
       if (app_.mode == app::kScreenMode && host::EqualText(page, "0")) {

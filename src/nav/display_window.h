@@ -30,7 +30,7 @@ struct SideWindows {
   std::function<void()> show_notes;
 };
 
-class DisplayWindow final : public host::Window, private FontSource {
+class DisplayWindow final : public host::Window, public FontSource {
  public:
   // `app` must outlive the window. Nothing is loaded and no page drawn before
   // `Open`.
@@ -75,6 +75,10 @@ class DisplayWindow final : public host::Window, private FontSource {
   void ExitPB_IsPushed();
   void BackButton_IsPushed(TextButton& button);
   void PushInOpeningMode(const TextButton& button);
+
+  // Hand a document to another application; `filename` is Mac Roman.
+  void ShowDocument(const std::string& filename);
+  void ShowPDF(const std::string& filename);
 
   TextButton& AddButton(const host::Rect& frame);
 

@@ -139,6 +139,8 @@ class Flow {
     RunDrawn = 1;
     PlacedLink link;
     link.index = Active();
+    link.column = column_;
+    link.offset = TextOffset;
     link.left = host::AddSaturating(PenX, settings_.canvas_left);
     link.top = host::AddSaturating(PenY, settings_.canvas_top - settings_.button_rise);
     link.text = TakeRun(word, field, host::Val(LinkList[Active()]->GetLength()));
@@ -201,7 +203,8 @@ class Flow {
   }
 
   void Place(std::string text, std::int32_t y) {
-    layout_.words.push_back({std::move(text), PenX, y, face_.Bold, face_.Italic, face_.Underline});
+    layout_.words.push_back(
+        {std::move(text), PenX, y, face_.Bold, face_.Italic, face_.Underline, column_, TextOffset});
   }
 
   // Width of `word` with a trailing blank, in the style the word before left.

@@ -40,6 +40,8 @@ struct PlacedWord {
   bool bold = false;
   bool italic = false;
   bool underline = false;
+  std::int32_t column = 0;  // from 1
+  std::int32_t offset = 0;  // of the word, or of the word that a label names
 };
 
 // A link that found its word.
@@ -49,6 +51,8 @@ struct PlacedLink {
   std::int32_t top = 0;
   std::string text;
   bool shown = false;  // false for a styled run, whose button stays hidden
+  std::int32_t column = 0;
+  std::int32_t offset = 0;  // of its first word
 };
 
 struct PageLayout {

@@ -1,6 +1,7 @@
 // A whole reader on the desktop in memory, with content that a test gives.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,9 +29,12 @@ class Reader {
   }
 
   // The viewer, which opens at the first call.
-  nav::DisplayWindow& Viewer() { return program_.DisplayWindow(); }
+  nav::DisplayWindow& Viewer() { return program_->DisplayWindow(); }
 
-  app::App& App() { return program_.App(); }
+  app::App& App() { return program_->App(); }
+
+  // What the end of the program does; there is nothing to ask of it afterwards.
+  void EndProgram() { program_.reset(); }
 
   // What the viewer's window shows.
   host::MemoryScreen& Screen() { return *desktop.screens.at(0); }
@@ -46,7 +50,7 @@ class Reader {
   host::MemoryDesktop desktop;
 
  private:
-  Program program_;
+  std::optional<Program> program_ = std::make_optional<Program>();
 };
 
 }  // namespace quill::tests

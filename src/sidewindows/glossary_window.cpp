@@ -1,0 +1,93 @@
+#include "sidewindows/glossary_window.h"
+
+#include "host/desktop.h"
+#include "host/numbers.h"
+#include "sidewindows/glossary_layout.h"
+
+namespace quill::sidewindows {
+namespace {
+
+constexpr std::int32_t kDepth = 32;  // bits a pixel
+
+host::WindowStyle GlossaryStyle() {
+  host::WindowStyle style;
+  style.title = "Glossary";
+  style.width = 464;
+  style.height = 360;
+  style.frame = host::WindowStyle::Frame::kDialog;
+  style.back_color = host::kWhite;
+  return style;
+}
+
+host::TextStyle TitleStyle() {
+  host::TextStyle style;
+  style.face.TextFont = "System";
+  style.face.TextSize = 12;
+  style.color = host::kWhite;
+  style.align = host::TextAlign::kCenter;
+  return style;
+}
+
+// Where a length stands when it is centred in another.
+std::int32_t Centred(std::int32_t start, std::int32_t outer, std::int32_t inner) {
+  return host::ToInt32(start + (outer - inner) / 2.0);
+}
+
+}  // namespace
+
+GlossaryWindow::GlossaryWindow(app::App& app, const host::Window& viewer, const nav::FontSource& fonts)
+    : Window(GlossaryStyle()),
+      app_(app),
+      viewer_(viewer),
+      PageCanvas(AddControl<host::Canvas>(nullptr, host::Rect{2, 2, 459, 356})),
+      ClosePB(AddControl<nav::TextButton>(&PageCanvas, host::Rect{378, 327, 59, 24}, app, fonts)),
+      TitleField(
+          AddControl<host::StaticText>(&PageCanvas, host::Rect{9, 8, 428, 20}, TitleStyle(), "Label:")) {
+  PageCanvas.SetBackdrop(app_.pictures.Black());
+  ClosePB.IsPushed = [this](nav::TextButton&) { ClosePB_IsPushed(); };
+}
+
+void GlossaryWindow::Init() {
+  MoveTo(Centred(viewer_.Left(), viewer_.Width(), Width()),
+         Centred(viewer_.Top(), viewer_.Height(), Height()));
+  LeftMargin = 10;
+  RightMargin = PageCanvas.Width() - LeftMargin;
+  TopMargin = 30;
+  PrepareCanvas();
+  ClosePB.SetLinkType(nav::link_type::kPlain);
+  ClosePB.SetText("Close");
+  ClosePB.Show();
+}
+
+// A clean picture with the ground of the current mode.
+void GlossaryWindow::PrepareCanvas() {
+  PageCanvas.SetBackdrop(host::NewPicture(PageCanvas.Width(), PageCanvas.Height(), kDepth));
+  g = host::GraphicsOf(PageCanvas.Backdrop());
+  if (!g) return;
+  const auto ground = app_.pictures.Get(app_.CurrentMode().glossary_picture);
+  if (ground) g->DrawPicture(*ground, 0, 0);
+  g->ForeColor = host::kWhite;
+  g->TextFont = "system";
+  g->TextSize = app_.fontsize;
+}
+
+void GlossaryWindow::ShowPage(const std::string& page) {
+  Page = page;
+  PrepareCanvas();
+  DrawPage();
+}
+
+void GlossaryWindow::DrawPage() {
+  if (!app_.glossary || !g) return;
+  app_.debugmethod();
+  const auto entry = app_.glossary->GetPage(host::IntVal(Page));
+  if (!entry) return;
+  TitleField.SetText(entry->GetTitle());
+  const EntryMargins margins = {LeftMargin, TopMargin, RightMargin};
+  for (const EntryWord& word :
+       LayOutEntry(entry->GetText(), margins, *g, host::Desktop::Current().Metrics())) {
+    g->DrawString(word.text, word.x, word.y);
+  }
+}
+
+}  // namespace quill::sidewindows

@@ -1,0 +1,49 @@
+// The glossary: a small window over the viewer that shows one entry of the
+// mode's glossary, with one button to close it. The viewer can be used behind
+// it; a further link then finds it open and draws its entry on a clean ground.
+//
+// It takes the look of the mode in which it was made, and isn't told when the
+// mode changes.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/app.h"
+#include "host/controls.h"
+#include "nav/text_button.h"
+
+namespace quill::sidewindows {
+
+class GlossaryWindow final : public host::Window {
+ public:
+  // `viewer` is the window that this one stands over, `fonts` its text face;
+  // both must outlive it, and `app` too.
+  GlossaryWindow(app::App& app, const host::Window& viewer, const nav::FontSource& fonts);
+
+  // Shows the entry with that number, decimal text. An entry that the glossary
+  // doesn't hold leaves the ground bare and the title as it was.
+  void ShowPage(const std::string& page);
+
+ private:
+  void Event_Open() override { Init(); }
+  void Init();
+  void PrepareCanvas();
+  void DrawPage();
+  void ClosePB_IsPushed() { Close(); }
+
+  app::App& app_;
+  const host::Window& viewer_;
+
+  host::Canvas& PageCanvas;
+  nav::TextButton& ClosePB;
+  host::StaticText& TitleField;
+
+  std::string Page;
+  std::int32_t TopMargin = 0;
+  std::int32_t LeftMargin = 0;
+  std::int32_t RightMargin = 0;
+  std::shared_ptr<host::Graphics> g;  // pen of the canvas's picture
+};
+
+}  // namespace quill::sidewindows
