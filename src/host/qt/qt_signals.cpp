@@ -25,11 +25,17 @@ void Wake(int /*signal*/) {
   errno = kept;
 }
 
+// A signal that whoever started the program has it ignore stays ignored.
 void SetHandlers(void (*handler)(int)) {
-  struct sigaction action = {};
-  action.sa_handler = handler;
-  action.sa_flags = SA_RESTART;
-  for (const int signal : kSignals) sigaction(signal, &action, nullptr);
+  for (const int signal : kSignals) {
+    struct sigaction action = {};
+    sigaction(signal, nullptr, &action);
+    if (action.sa_handler == SIG_IGN) continue;
+    action = {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    sigaction(signal, &action, nullptr);
+  }
 }
 
 }  // namespace
