@@ -50,6 +50,9 @@ inline constexpr std::int32_t kScreenMode = 1;
 inline constexpr std::int32_t kWgaMode = 4;
 inline constexpr std::int32_t kBioMode = 5;
 
+// A link of the opening page to 100 + n leads to page n of Bio.
+inline constexpr std::int32_t kBioPages = 100;
+
 constexpr bool IsMode(std::int32_t mode) {
   return mode >= 0 && mode < static_cast<std::int32_t>(kModes.size());
 }

@@ -8,7 +8,6 @@ namespace quill::nav {
 namespace {
 
 constexpr std::int32_t kTrailFontSize = 10;
-constexpr std::int32_t kBioPages = 100;  // a link of the opening page to 100 + n leads to page n of Bio
 
 constexpr host::Rect kCanvasFrame = {0, 0, 640, 480};
 constexpr host::Rect kLinkFrame = {53, 51, 541, 22};
@@ -130,8 +129,8 @@ void DisplayWindow::LinkButton_IsPushed(TextButton& button) {
 // There a link's target alone counts: a mode, or 100 and a page of Bio.
 void DisplayWindow::PushInOpeningMode(const TextButton& button) {
   const double target = host::Val(button.GetPage());
-  if (target >= kBioPages) {
-    CurrentPage = host::ToInt32(target - kBioPages);
+  if (target >= app::kBioPages) {
+    CurrentPage = host::ToInt32(target - app::kBioPages);
     ChooseMode(app::kBioMode);
   } else if (const std::int32_t mode = host::ToInt32(target); app::IsMode(mode)) {
     ChooseMode(mode);

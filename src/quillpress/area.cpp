@@ -1,0 +1,59 @@
+#include "quillpress/area.h"
+
+#include <utility>
+
+#include "host/desktop.h"
+#include "markup/text_helpers.h"
+
+namespace quill::quillpress {
+namespace {
+
+std::shared_ptr<host::FolderItem> ItemOf(const std::string& name) {
+  std::shared_ptr<host::FolderItem> item = host::GetFolderItem("");
+  for (const char* const folder : {"Quillmere.app", "Contents", "Data"}) {
+    if (item) item = item->TrueChild(folder);
+  }
+  return item ? item->TrueChild(name) : nullptr;
+}
+
+std::string BytesOf(const std::string& name) {
+  const auto item = ItemOf(name);
+  const auto stream = item ? item->OpenAsBinaryFile() : nullptr;
+  return stream ? stream->Read(stream->Length()) : std::string();
+}
+
+}  // namespace
+
+std::optional<OpenedFile> OpenFile(const std::string& name) {
+  markup::zkXMLToolkitGlobals::UseXMLFormatting = true;
+  OpenedFile opened;
+  opened.name = name;
+  if (!ItemOf(name)) return std::nullopt;
+  opened.file = std::make_unique<content::zkXMLFileClass>(name);
+  opened.document = std::make_shared<content::Document>();
+  if (!opened.file->Init() || !opened.file->GetDocument(opened.document)) return std::nullopt;
+  opened.bytes = BytesOf(name);
+  return opened;
+}
+
+std::string CannotOpen(const std::string& name) {
+  return name + (ItemOf(name) ? " can't be opened as a content file" : " isn't there");
+}
+
+std::vector<std::shared_ptr<content::Page>> PagesOf(const content::Document& document) {
+  std::vector<std::shared_ptr<content::Page>> pages;
+  for (std::int32_t i = 0; i <= document.GetUbound(); ++i) pages.push_back(document.GetPageByOffset(i));
+  return pages;
+}
+
+std::vector<std::shared_ptr<content::Link>> LinksOf(const content::Page& page) {
+  std::vector<std::shared_ptr<content::Link>> links;
+  page.GetLinks(links);
+  return links;
+}
+
+bool IsWholeNumber(const std::string& text) {
+  return !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+}
+
+}  // namespace quill::quillpress

@@ -1,0 +1,69 @@
+#include "quillpress/data_view.h"
+
+#include <map>
+#include <string>
+#include <utility>
+
+#include "host/qt/qt_files.h"
+
+namespace quill::quillpress {
+namespace {
+
+namespace fs = std::filesystem;
+using Item = std::shared_ptr<host::FolderItem>;
+
+// A folder that isn't there, some of whose items lie elsewhere. All others are
+// looked for at the place on the disk that the folder stands for.
+class ViewFolder final : public host::FolderItem {
+ public:
+  ViewFolder(fs::path place, std::map<std::string, Item> items)
+      : place_(std::move(place)), items_(std::move(items)) {}
+
+  std::string Name() const override { return place_.filename().string(); }
+  std::string Path() const override { return place_.string(); }
+  bool Exists() const override { return true; }
+
+  Item Child(const std::string& name) const override {
+    const auto found = items_.find(name);
+    if (found != items_.end()) return found->second;
+    return host::IsPlainName(name) ? host::DiskItem(place_ / name) : nullptr;
+  }
+
+  std::unique_ptr<host::BinaryStream> OpenAsBinaryFile() const override { return nullptr; }
+  std::unique_ptr<host::TextOutputStream> Create(Readers /*readers*/) const override { return nullptr; }
+
+ private:
+  fs::path place_;
+  std::map<std::string, Item> items_;
+};
+
+Item View(const fs::path& place, std::map<std::string, Item> items) {
+  return std::make_shared<ViewFolder>(place, std::move(items));
+}
+
+// Without links and without a "/" at its end, so that what lies around it can
+// be told by its parents.
+fs::path Plain(const fs::path& path) {
+  std::error_code error;
+  const fs::path plain = fs::weakly_canonical(fs::absolute(path, error), error);
+  return plain.has_filename() ? plain : plain.parent_path();
+}
+
+}  // namespace
+
+bool IsInBundle(const fs::path& data) {
+  const fs::path contents = Plain(data).parent_path();
+  return Plain(data).filename() == "Data" && contents.filename() == "Contents" &&
+         contents.parent_path().filename() == "Quillmere.app";
+}
+
+Item BundleView(const fs::path& data, const fs::path& documents) {
+  const fs::path contents = Plain(data).parent_path();
+  const fs::path bundle = contents.parent_path();
+  const fs::path folder = bundle.parent_path();
+  const Item inner = View(contents, {{"Data", host::DiskItem(Plain(data))}});
+  return View(folder, {{"Quillmere.app", View(bundle, {{"Contents", inner}})},
+                       {"Data", host::DiskItem(documents.empty() ? folder / "Data" : documents)}});
+}
+
+}  // namespace quill::quillpress

@@ -1,0 +1,25 @@
+// The bundle as the tool makes it up: content files are opened by the reader's
+// own code, which looks for them in the folder `Data` of a bundle beside the
+// executable. The view puts the author's folder in that place, wherever it lies
+// and whatever it is called. It holds nothing; the files stay where they are.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "host/files.h"
+
+namespace quill::quillpress {
+
+// Whether `data` lies where it would in a real bundle, so that the folder of
+// documents beside the bundle is known.
+bool IsInBundle(const std::filesystem::path& data);
+
+// The folder that seems to hold the bundle. Inside it "Quillmere.app", "Contents"
+// and "Data" lead to `data`, and "Data" beside the bundle to `documents`; an empty
+// `documents` stands for the place it would have beside the real bundle. Both
+// paths count from the current folder.
+std::shared_ptr<host::FolderItem> BundleView(const std::filesystem::path& data,
+                                             const std::filesystem::path& documents = {});
+
+}  // namespace quill::quillpress

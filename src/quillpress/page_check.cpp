@@ -1,0 +1,212 @@
+#include "quillpress/page_check.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <utility>
+
+#include "app/mode_table.h"
+#include "host/geometry.h"
+#include "host/numbers.h"
+#include "host/text.h"
+#include "quillpress/area.h"
+#include "render/link_style.h"
+
+namespace quill::quillpress {
+namespace {
+
+constexpr host::Rect kWindow = {0, 0, 640, 480};
+constexpr std::int32_t kLabelHeight = 24;
+constexpr std::int32_t kExitLeft = 587;
+constexpr std::int32_t kExitTop = 437;
+constexpr std::int32_t kExitSize = 10;
+
+// Buttons on lines that follow each other in a paragraph share so many rows of
+// pixels, which are bare in the upper one.
+constexpr std::int32_t kSharedRows = 4;
+
+// What hangs below a base line, in parts of a line's height.
+constexpr std::int32_t kDescent = 4;
+
+using WordPlace = std::pair<std::int32_t, std::int32_t>;  // column and offset
+
+std::int32_t Right(const host::Rect& area) { return host::AddSaturating(area.left, area.width); }
+std::int32_t Bottom(const host::Rect& area) { return host::AddSaturating(area.top, area.height); }
+
+// Rows of pixels that two areas share; 0 where they are apart.
+std::int32_t SharedRows(const host::Rect& a, const host::Rect& b) {
+  if (std::min(Right(a), Right(b)) <= std::max(a.left, b.left)) return 0;
+  return std::max(0, std::min(Bottom(a), Bottom(b)) - std::max(a.top, b.top));
+}
+
+// One page under the eye.
+class PageCheck {
+ public:
+  PageCheck(const content::Page& page, std::int32_t mode, const Place& at, host::FontMetrics& metrics,
+            Findings& findings)
+      : page_(page),
+        mode_(mode),
+        at_(at),
+        metrics_(metrics),
+        findings_(findings),
+        links_(LinksOf(page)),
+        words_(WordsOf(page, metrics)),
+        settings_(ViewerSettings(page, mode, host::Str(at.page))),
+        layout_(render::LayOutPage(page, settings_, metrics)) {
+    for (const render::PlacedWord& word : layout_.words) lines_[{word.column, word.offset}] = word.y;
+    for (const render::PlacedLink& link : layout_.links)
+      lines_[{link.column, link.offset}] = link.top + settings_.button_rise;
+  }
+
+  void Run() {
+    if (links_.size() > render::kLinkButtons) {
+      Add(Kind::kTooManyLinks, at_,
+          "it has " + std::to_string(links_.size()) + " links, and the reader shows the first " +
+              std::to_string(render::kLinkButtons));
+    }
+    for (std::size_t i = 0; i < links_.size(); ++i) CheckWord(i);
+    for (const render::PlacedLink& link : layout_.links) {
+      if (link.shown) CheckButton(link);
+    }
+    CheckText();
+  }
+
+ private:
+  void Add(Kind kind, const Place& place, std::string reason) {
+    findings_.push_back({kind, place, std::move(reason)});
+  }
+
+  Place PlaceOf(std::size_t index) const { return PlaceOfLink(at_, page_, words_, index); }
+
+  // Whether the link finds a word of its own, with enough text behind it.
+  void CheckWord(std::size_t index) {
+    const content::Link& link = *links_[index];
+    const Place place = PlaceOf(index);
+    const std::int32_t column = link.GetColumn();
+    if (column < 1 || column > page_.GetColumns()) {
+      Add(Kind::kOffset, place,
+          "it lies in column " + host::Str(column) + ", and the page has " + host::Str(page_.GetColumns()));
+      return;
+    }
+    if (!CheckNumbers(link, place)) return;
+    const std::int32_t offset = host::IntVal(link.GetOffset());
+    const PageWord* const word = WordAt(words_, column, offset);
+    if (word == nullptr) {
+      Add(Kind::kOffset, place, "no word starts at its offset " + link.GetOffset());
+    } else if (!taken_.insert({column, offset}).second) {
+      Add(Kind::kSameWord, place, "an earlier link starts at the same word, and hides it");
+    } else if (host::Val(link.GetLength()) > static_cast<double>(word->rest.size())) {
+      Add(Kind::kLength, place,
+          "its length " + link.GetLength() + " runs past the end of the paragraph, which is " +
+              std::to_string(word->rest.size()) + " characters away");
+    }
+  }
+
+  bool CheckNumbers(const content::Link& link, const Place& place) {
+    const std::size_t before = findings_.size();
+    for (const auto& [name, text] : {std::pair("offset", link.GetOffset()), {"length", link.GetLength()}}) {
+      if (IsWholeNumber(text)) continue;
+      Add(Kind::kNumber, place, std::string("its ") + name + " \"" + text + "\" is no whole number");
+    }
+    return findings_.size() == before;
+  }
+
+  void CheckButton(const render::PlacedLink& link) {
+    const Place place = PlaceOf(link.index);
+    const host::Rect button = {link.left, link.top,
+                               host::ToInt32(metrics_.StringWidth(settings_.face, link.text)), kLabelHeight};
+    CheckEdges(link, button, place);
+    if (SharedRows(button, ExitButton()) > 0)
+      Add(Kind::kExitButton, place, "its button lies under the button \"" + ExitLabel() + "\"");
+    for (const auto& [other, area] : buttons_) {
+      if (SharedRows(button, area) <= kSharedRows) continue;
+      Add(Kind::kOverlap, place,
+          "its button and that of link " + std::to_string(other->index + 1) + " \"" + other->text +
+              "\" cover each other");
+    }
+    buttons_.emplace_back(&link, button);
+  }
+
+  void CheckEdges(const render::PlacedLink& link, const host::Rect& button, const Place& place) {
+    const std::int32_t column_end = settings_.geometry.RightMargin[static_cast<std::size_t>(link.column)];
+    if (Right(button) > kWindow.width || Bottom(button) > kWindow.height) {
+      Add(Kind::kPastEdge, place, "its button runs past the edge of the window");
+    } else if (BreaksAcrossLines(link)) {
+      Add(Kind::kPastEdge, place, "its words break across lines, and its button runs on past its column");
+    } else if (Right(button) > column_end) {
+      Add(Kind::kPastEdge, place,
+          "its button runs " + host::Str(Right(button) - column_end) + " pixels past its column");
+    }
+  }
+
+  // Whether a word that the button shows stands on another line of the flow than
+  // the first. Fields without text, from blanks in a row, are no words of it.
+  bool BreaksAcrossLines(const render::PlacedLink& link) const {
+    auto word = lines_.find({link.column, link.offset});
+    const std::int32_t line = word->second;
+    const std::vector<std::string_view> fields = host::Fields(link.text, ' ');
+    for (std::size_t i = 1; i < fields.size(); ++i) {
+      if (fields[i].empty() || word == lines_.end() || ++word == lines_.end()) continue;
+      if (word->second != line) return true;
+    }
+    return false;
+  }
+
+  std::string ExitLabel() const { return mode_ == app::kOpeningMode ? "Exit" : "Back"; }
+
+  host::Rect ExitButton() {
+    host::TextFace face = settings_.face;
+    face.TextSize = kExitSize;
+    return {kExitLeft, kExitTop, host::ToInt32(metrics_.StringWidth(face, ExitLabel())), kLabelHeight};
+  }
+
+  // Once for a column: what follows its first word out of sight is out of sight.
+  void CheckText() {
+    const std::int32_t room = metrics_.TextHeight(settings_.face) / kDescent;
+    std::int32_t told = 0;
+    for (const auto& [word, line] : lines_) {
+      if (word.first == told || host::AddSaturating(line, room) <= kWindow.height) continue;
+      told = word.first;
+      Place place = at_;
+      place.column = told;
+      const PageWord* const first = WordAt(words_, word.first, word.second);
+      Add(Kind::kBelowEdge, place,
+          "its text runs below the edge of the window from \"" + (first ? first->text : "") + "\" on");
+    }
+  }
+
+  const content::Page& page_;
+  const std::int32_t mode_;
+  const Place& at_;
+  host::FontMetrics& metrics_;
+  Findings& findings_;
+  const std::vector<std::shared_ptr<content::Link>> links_;
+  const std::vector<PageWord> words_;
+  const render::LayoutSettings settings_;
+  const render::PageLayout layout_;
+  std::map<WordPlace, std::int32_t> lines_;                                // base line of each word
+  std::set<WordPlace> taken_;                                              // words at which a link starts
+  std::vector<std::pair<const render::PlacedLink*, host::Rect>> buttons_;  // looked at so far
+};
+
+}  // namespace
+
+Place PlaceOfLink(Place at, const content::Page& page, const std::vector<PageWord>& words,
+                  std::size_t index) {
+  const content::Link& link = *LinksOf(page)[index];
+  at.column = link.GetColumn();
+  at.link = static_cast<std::int32_t>(index) + 1;
+  const PageWord* const word = WordAt(words, at.column, host::IntVal(link.GetOffset()));
+  if (word == nullptr) return at;
+  // Whole words, as the reader takes them.
+  const std::int32_t length = std::max(host::IntVal(link.GetLength()) - 1, 0);
+  at.words = word->rest.substr(0, word->rest.find(' ', static_cast<std::size_t>(length)));
+  return at;
+}
+
+void CheckPage(const content::Page& page, std::int32_t mode, const Place& at, host::FontMetrics& metrics,
+               Findings& findings) {
+  PageCheck(page, mode, at, metrics, findings).Run();
+}
+
+}  // namespace quill::quillpress

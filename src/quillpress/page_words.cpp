@@ -1,0 +1,94 @@
+#include "quillpress/page_words.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/mode_table.h"
+#include "host/text.h"
+
+namespace quill::quillpress {
+namespace {
+
+constexpr std::int32_t kWindowWidth = 640;
+constexpr std::int32_t kTextTop = 60;
+constexpr std::int32_t kTextSize = 12;
+constexpr std::int32_t kButtonRise = 15;
+constexpr std::string_view kIndexPage = "191";
+constexpr double kIndexStep = 0.35;
+
+content::Page WithoutLinks(const content::Page& page) {
+  const std::int32_t columns = page.GetColumns();
+  if (columns == 1) return {"", "", page.GetText(1)};
+  if (columns == 2) return {"", "", page.GetText(1), page.GetText(2)};
+  return {"", "", page.GetText(1), page.GetText(2), page.GetText(3)};
+}
+
+// Adds the words of a column; `counted` are those that the layout placed, in the
+// same order, from `at` on.
+void AddColumn(std::string_view text, const std::vector<render::PlacedWord>& counted, std::size_t& at,
+               std::vector<PageWord>& words) {
+  for (const std::string_view paragraph : host::Fields(text, '\n')) {
+    std::size_t start = 0;
+    for (const std::string_view field : host::Fields(paragraph, ' ')) {
+      const std::size_t tab = !field.empty() && field.front() == '\t' ? 1 : 0;
+      if (!field.empty() && at < counted.size()) {
+        const render::PlacedWord& word = counted[at++];
+        words.push_back({word.column, word.offset, word.text, paragraph.substr(start + tab)});
+      }
+      start += field.size() + 1;
+    }
+  }
+}
+
+bool IsPartOfWord(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || (c & 0x80) != 0;
+}
+
+// A word may be named without the punctuation behind it.
+bool StartsWithPhrase(std::string_view text, std::string_view phrase) {
+  if (phrase.empty() || !text.starts_with(phrase)) return false;
+  return phrase.size() == text.size() || !IsPartOfWord(phrase.back()) || !IsPartOfWord(text[phrase.size()]);
+}
+
+}  // namespace
+
+render::LayoutSettings ViewerSettings(const content::Page& page, std::int32_t mode,
+                                      const std::string& page_number) {
+  render::LayoutSettings settings;
+  settings.geometry.TopMargin = kTextTop;
+  settings.geometry.SetMargins(page.GetColumns(), kWindowWidth);
+  settings.face.TextSize = kTextSize;
+  settings.button_rise = kButtonRise;
+  if (mode == app::kScreenMode && page_number == kIndexPage) settings.paragraph_step = kIndexStep;
+  return settings;
+}
+
+std::vector<PageWord> WordsOf(const content::Page& page, host::FontMetrics& metrics) {
+  const content::Page plain = WithoutLinks(page);
+  const auto counted = LayOutPage(plain, ViewerSettings(plain, 0, ""), metrics).words;
+  std::vector<PageWord> words;
+  std::size_t at = 0;
+  for (std::int32_t column = 1; column <= plain.GetColumns(); ++column)
+    AddColumn(page.GetText(column), counted, at, words);
+  return words;
+}
+
+const PageWord* WordAt(const std::vector<PageWord>& words, std::int32_t column, std::int32_t offset) {
+  const auto found =
+      std::lower_bound(words.begin(), words.end(), std::pair(column, offset),
+                       [](const PageWord& word, const std::pair<std::int32_t, std::int32_t>& at) {
+                         return std::pair(word.column, word.offset) < at;
+                       });
+  return found != words.end() && found->column == column && found->offset == offset ? &*found : nullptr;
+}
+
+const PageWord* FindPhrase(const std::vector<PageWord>& words, std::string_view phrase, std::int32_t nth,
+                           std::int32_t column) {
+  for (const PageWord& word : words) {
+    const bool fits = (column == 0 || word.column == column) && StartsWithPhrase(word.rest, phrase);
+    if (fits && --nth == 0) return &word;
+  }
+  return nullptr;
+}
+
+}  // namespace quill::quillpress
