@@ -3,13 +3,14 @@
 #include "host/desktop.h"
 #include "host/numbers.h"
 #include "host/text.h"
+#include "render/page_settings.h"
 
 namespace quill::nav {
 namespace {
 
 constexpr std::int32_t kTrailFontSize = 10;
 
-constexpr host::Rect kCanvasFrame = {0, 0, 640, 480};
+constexpr host::Rect kCanvasFrame = {0, 0, render::kPageWidth, render::kPageHeight};
 constexpr host::Rect kLinkFrame = {53, 51, 541, 22};
 constexpr host::Rect kTrailFrame = {23, 438, 342, 22};
 

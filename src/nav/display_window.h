@@ -18,7 +18,6 @@
 #include "host/controls.h"
 #include "nav/history.h"
 #include "nav/text_button.h"
-#include "render/page_geometry.h"
 #include "render/page_layout.h"
 
 namespace quill::nav {
@@ -65,7 +64,6 @@ class DisplayWindow final : public host::Window, public FontSource {
   void DrawPage(const std::string& page_number);
   void InitializeCanvas();
   void InitLinkButtons();
-  render::LayoutSettings SettingsFor(const content::Page& page, const std::string& page_number);
   void DrawText(const content::Page& page, const std::string& page_number);
   void PlaceLink(const render::PlacedLink& placed, const content::Link& link);
   void ShowBackButtons();
@@ -105,7 +103,6 @@ class DisplayWindow final : public host::Window, public FontSource {
   std::int32_t CurrentPage = 0;  // the page on show, or next to be shown
   History history;
 
-  render::PageGeometry geometry_;
   std::shared_ptr<host::Graphics> G;  // pen of the page's picture
   render::PageLayout layout_;         // of the page on show
 };

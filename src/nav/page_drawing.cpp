@@ -1,24 +1,18 @@
 // How the viewer draws a page.
-#include <string_view>
-
 #include "host/desktop.h"
 #include "host/numbers.h"
 #include "host/text.h"
 #include "nav/display_window.h"
 #include "render/page_canvas.h"
+#include "render/page_settings.h"
 
 namespace quill::nav {
 namespace {
 
-constexpr std::int32_t kDepth = 16;  // bits a pixel
-constexpr std::int32_t kTextTop = 60;
+constexpr std::int32_t kDepth = 16;    // bits a pixel
 constexpr std::int32_t kRowLeft = 20;  // of the row of history buttons
 constexpr std::int32_t kRowTop = 437;
 constexpr std::int32_t kRowFontSize = 10;
-
-// The index of the Screen area has short lines and sets them close.
-constexpr std::string_view kIndexPage = "191";
-constexpr double kIndexStep = 0.35;
 
 std::string TitleOf(const std::shared_ptr<content::Document>& document, std::int32_t number) {
   const auto page = document ? document->GetPage(number) : nullptr;
@@ -92,28 +86,15 @@ void DisplayWindow::InitLinkButtons() {
   ExitPB.SetEnabled(true);
   ExitPB.Show();
   ExitPB.SetTop(kRowTop);
-  geometry_.TopMargin = kTextTop;
-}
-
-render::LayoutSettings DisplayWindow::SettingsFor(const content::Page& page, const std::string& page_number) {
-  geometry_.SetMargins(page.GetColumns(), Stext.Width());
-  render::LayoutSettings settings;
-  settings.geometry = geometry_;
-  settings.face.TextFont = G->TextFont;
-  settings.face.TextSize = G->TextSize;
-  settings.canvas_left = Stext.Left();
-  settings.canvas_top = Stext.Top();
-  settings.button_rise = app_.fontheightoffset;
-  const bool index = app_.mode == app::kScreenMode && page_number == kIndexPage;
-  settings.paragraph_step = index ? kIndexStep : 1.0;
-  settings.show_offsets = NumberCB.Value();
-  return settings;
 }
 
 // Without a pen there is nothing to draw on, and the message has been shown.
 void DisplayWindow::DrawText(const content::Page& page, const std::string& page_number) {
   if (!G) return;
-  layout_ = render::LayOutPage(page, SettingsFor(page, page_number), host::Desktop::Current().Metrics());
+  render::LayoutSettings settings = render::PageSettings(app_, page.GetColumns(), page_number);
+  settings.face.TextFont = Font;
+  settings.show_offsets = NumberCB.Value();
+  layout_ = render::LayOutPage(page, settings, host::Desktop::Current().Metrics());
   render::DrawWords(layout_, *G);
   std::vector<std::shared_ptr<content::Link>> links;
   page.GetLinks(links);

@@ -8,12 +8,6 @@
 namespace quill::quillpress {
 namespace {
 
-// In pixels of the window's canvas.
-constexpr std::int32_t kCanvasHeight = 356;
-constexpr sidewindows::EntryMargins kMargins = {10, 30, 449};
-constexpr std::int32_t kCloseLeft = 378;
-constexpr std::int32_t kCloseTop = 327;
-
 constexpr std::int32_t kTextSize = 12;
 constexpr std::int32_t kDescent = 4;  // what hangs below a base line, in parts of a line's height
 
@@ -23,12 +17,14 @@ void CheckEntry(const content::Page& entry, const Place& at, host::FontMetrics& 
   host::TextFace face;
   face.TextSize = kTextSize;
   const std::int32_t room = metrics.TextHeight(face) / kDescent;
-  for (const auto& word : sidewindows::LayOutEntry(entry.GetText(), kMargins, face, metrics)) {
+  for (const auto& word :
+       sidewindows::LayOutEntry(entry.GetText(), sidewindows::kEntryMargins, face, metrics)) {
     const std::int32_t right =
         host::AddSaturating(word.x, host::ToInt32(metrics.StringWidth(face, word.text)));
     const std::int32_t bottom = host::AddSaturating(word.y, room);
-    const bool below = bottom > kCanvasHeight;
-    if (!below && (bottom <= kCloseTop || right <= kCloseLeft)) continue;
+    const bool below = bottom > sidewindows::kEntryCanvas.height;
+    if (!below && (bottom <= sidewindows::kEntryClose.top || right <= sidewindows::kEntryClose.left))
+      continue;
     findings.push_back(
         {Kind::kBelowEdge, at,
          "its text runs " +

@@ -11,11 +11,12 @@
 #include "host/text.h"
 #include "quillpress/area.h"
 #include "render/link_style.h"
+#include "render/page_settings.h"
 
 namespace quill::quillpress {
 namespace {
 
-constexpr host::Rect kWindow = {0, 0, 640, 480};
+constexpr host::Rect kWindow = {0, 0, render::kPageWidth, render::kPageHeight};
 constexpr std::int32_t kLabelHeight = 24;
 constexpr std::int32_t kExitLeft = 587;
 constexpr std::int32_t kExitTop = 437;

@@ -3,18 +3,12 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/mode_table.h"
+#include "app/app.h"
 #include "host/text.h"
+#include "render/page_settings.h"
 
 namespace quill::quillpress {
 namespace {
-
-constexpr std::int32_t kWindowWidth = 640;
-constexpr std::int32_t kTextTop = 60;
-constexpr std::int32_t kTextSize = 12;
-constexpr std::int32_t kButtonRise = 15;
-constexpr std::string_view kIndexPage = "191";
-constexpr double kIndexStep = 0.35;
 
 content::Page WithoutLinks(const content::Page& page) {
   const std::int32_t columns = page.GetColumns();
@@ -54,13 +48,10 @@ bool StartsWithPhrase(std::string_view text, std::string_view phrase) {
 
 render::LayoutSettings ViewerSettings(const content::Page& page, std::int32_t mode,
                                       const std::string& page_number) {
-  render::LayoutSettings settings;
-  settings.geometry.TopMargin = kTextTop;
-  settings.geometry.SetMargins(page.GetColumns(), kWindowWidth);
-  settings.face.TextSize = kTextSize;
-  settings.button_rise = kButtonRise;
-  if (mode == app::kScreenMode && page_number == kIndexPage) settings.paragraph_step = kIndexStep;
-  return settings;
+  app::App app;
+  app.Init();
+  app.mode = mode;
+  return render::PageSettings(app, page.GetColumns(), page_number);
 }
 
 std::vector<PageWord> WordsOf(const content::Page& page, host::FontMetrics& metrics) {

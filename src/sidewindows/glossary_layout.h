@@ -13,6 +13,10 @@
 
 namespace quill::sidewindows {
 
+// Where things lie: the canvas in the window, the rest on the canvas.
+inline constexpr host::Rect kEntryCanvas = {2, 2, 459, 356};
+inline constexpr host::Rect kEntryClose = {378, 327, 59, 24};
+
 // A word, the left end of its base line at `x`, `y`.
 struct EntryWord {
   std::string text;
@@ -26,6 +30,8 @@ struct EntryMargins {
   std::int32_t top = 0;
   std::int32_t right = 0;  // where a word with its blank must end
 };
+
+inline constexpr EntryMargins kEntryMargins = {10, 30, kEntryCanvas.width - 10};
 
 // Lays out `text` in that face. Text that doesn't fit runs on below; a word
 // wider than the margins moves to a new line and runs past the right one.

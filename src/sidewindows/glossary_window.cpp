@@ -39,8 +39,8 @@ GlossaryWindow::GlossaryWindow(app::App& app, const host::Window& viewer, const 
     : Window(GlossaryStyle()),
       app_(app),
       viewer_(viewer),
-      PageCanvas(AddControl<host::Canvas>(nullptr, host::Rect{2, 2, 459, 356})),
-      ClosePB(AddControl<nav::TextButton>(&PageCanvas, host::Rect{378, 327, 59, 24}, app, fonts)),
+      PageCanvas(AddControl<host::Canvas>(nullptr, kEntryCanvas)),
+      ClosePB(AddControl<nav::TextButton>(&PageCanvas, kEntryClose, app, fonts)),
       TitleField(
           AddControl<host::StaticText>(&PageCanvas, host::Rect{9, 8, 428, 20}, TitleStyle(), "Label:")) {
   PageCanvas.SetBackdrop(app_.pictures.Black());
@@ -50,9 +50,6 @@ GlossaryWindow::GlossaryWindow(app::App& app, const host::Window& viewer, const 
 void GlossaryWindow::Init() {
   MoveTo(Centred(viewer_.Left(), viewer_.Width(), Width()),
          Centred(viewer_.Top(), viewer_.Height(), Height()));
-  LeftMargin = 10;
-  RightMargin = PageCanvas.Width() - LeftMargin;
-  TopMargin = 30;
   PrepareCanvas();
   ClosePB.SetLinkType(nav::link_type::kPlain);
   ClosePB.SetText("Close");
@@ -83,9 +80,8 @@ void GlossaryWindow::DrawPage() {
   const auto entry = app_.glossary->GetPage(host::IntVal(Page));
   if (!entry) return;
   TitleField.SetText(entry->GetTitle());
-  const EntryMargins margins = {LeftMargin, TopMargin, RightMargin};
   for (const EntryWord& word :
-       LayOutEntry(entry->GetText(), margins, *g, host::Desktop::Current().Metrics())) {
+       LayOutEntry(entry->GetText(), kEntryMargins, *g, host::Desktop::Current().Metrics())) {
     g->DrawString(word.text, word.x, word.y);
   }
 }

@@ -40,9 +40,6 @@ class GlossaryWindow final : public host::Window {
   host::StaticText& TitleField;
 
   std::string Page;
-  std::int32_t TopMargin = 0;
-  std::int32_t LeftMargin = 0;
-  std::int32_t RightMargin = 0;
   std::shared_ptr<host::Graphics> g;  // pen of the canvas's picture
 };
 
