@@ -103,7 +103,7 @@ void DisplayWindow::LinkButton_IsPushed(TextButton& button) {
   }
   // The page that the button leads to may take the button for a link of its
   // own, so that the target is kept apart from it.
-  const std::string page = button.GetPage();
+  const auto page = std::string(button.GetPage());
   switch (button.GetLinkType()) {
     case link_type::kDocument:
       if (app_.mode == app::kWgaMode) {
@@ -149,7 +149,7 @@ void DisplayWindow::ExitPB_IsPushed() {
 // `ShowPage` puts back the entry that the cut took away, so that the trail ends
 // with the page on show.
 void DisplayWindow::BackButton_IsPushed(TextButton& button) {
-  const std::string page = button.GetPage();
+  const auto page = std::string(button.GetPage());
   history.ResetHistory(page);
   ShowPage(page);
 }

@@ -74,7 +74,7 @@ const content::Page& Editor::PageOf(std::int32_t id) const {
 
 std::shared_ptr<zkXMLElement> Editor::LinksOf(std::int32_t id) const {
   const auto page = file_.file->GetPage(host::Str(id));
-  const auto links = page ? page->GetElement("Links") : nullptr;
+  auto links = page ? page->GetElement("Links") : nullptr;
   if (!links) ComplainOf(id, "it has no list of links; \"page update\" gives it one.");
   return links;
 }
