@@ -98,4 +98,10 @@ bool Page::HasPosition(std::int32_t position) const {
   return position >= 0 && static_cast<std::size_t>(position) < Links.size();
 }
 
+std::vector<std::shared_ptr<Link>> LinksOf(const Page& page) {
+  std::vector<std::shared_ptr<Link>> links;
+  page.GetLinks(links);
+  return links;
+}
+
 }  // namespace quill::content

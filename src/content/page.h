@@ -77,4 +77,7 @@ class Page {
   std::int32_t columns = 0;
 };
 
+// All links of `page`, in order.
+std::vector<std::shared_ptr<Link>> LinksOf(const Page& page);
+
 }  // namespace quill::content

@@ -10,11 +10,16 @@ std::shared_ptr<FolderItem> FolderItem::TrueChild(const std::string& name) const
 }
 
 std::unique_ptr<TextInputStream> FolderItem::OpenAsTextFile() const {
-  const std::unique_ptr<BinaryStream> stream = OpenAsBinaryFile();
-  if (!stream) return nullptr;
-  std::string text = stream->Read(stream->Length());
-  if (text.size() != stream->Length()) return nullptr;
-  return std::make_unique<TextInputStream>(std::move(text));
+  std::optional<std::string> text = ReadWhole(*this);
+  return text ? std::make_unique<TextInputStream>(std::move(*text)) : nullptr;
+}
+
+std::optional<std::string> ReadWhole(const FolderItem& file) {
+  const std::unique_ptr<BinaryStream> stream = file.OpenAsBinaryFile();
+  if (!stream) return std::nullopt;
+  std::string bytes = stream->Read(stream->Length());
+  if (bytes.size() != stream->Length()) return std::nullopt;
+  return bytes;
 }
 
 std::string TextInputStream::ReadLine() {

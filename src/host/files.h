@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace quill::host {
@@ -93,6 +94,9 @@ class FolderItem {
   enum class Readers { kOwner, kAsBefore };
   virtual std::unique_ptr<TextOutputStream> Create(Readers readers) const = 0;
 };
+
+// All bytes of the file; none if it can't be opened or not be read to its end.
+std::optional<std::string> ReadWhole(const FolderItem& file);
 
 // Whether `name` names a place right inside a folder; see `FolderItem::Child`.
 bool IsPlainName(const std::string& name);

@@ -72,6 +72,16 @@ struct TextStyle {
   TextAlign align = TextAlign::kLeft;
 };
 
+// A style in the desktop's own text face, `size` in points.
+inline TextStyle SystemText(std::int32_t size, Color color, TextAlign align = TextAlign::kLeft) {
+  TextStyle style;
+  style.face.TextFont = "System";
+  style.face.TextSize = size;
+  style.color = color;
+  style.align = align;
+  return style;
+}
+
 // What a window is made with and keeps.
 struct WindowStyle {
   enum class Frame { kDocument = 0, kDialog = 2 };

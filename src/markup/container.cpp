@@ -1,6 +1,7 @@
 #include "markup/container.h"
 
-#include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "host/desktop.h"
 #include "host/exceptions.h"
@@ -10,13 +11,10 @@
 namespace quill::markup {
 namespace {
 
-std::string ReadWhole(const std::shared_ptr<host::FolderItem>& file) {
-  if (!file) throw host::NilObjectException();
-  const std::unique_ptr<host::BinaryStream> stream = file->OpenAsBinaryFile();
-  if (!stream) throw host::NilObjectException();
-  std::string bytes = stream->Read(stream->Length());
-  stream->Close();
-  return bytes;
+std::string TextOf(const std::shared_ptr<host::FolderItem>& file) {
+  std::optional<std::string> text = file ? host::ReadWhole(*file) : std::nullopt;
+  if (!text) throw host::NilObjectException();
+  return std::move(*text);
 }
 
 bool IsHtml(const std::shared_ptr<host::FolderItem>& file) {
@@ -42,7 +40,7 @@ zkXMLContainer::zkXMLContainer(std::string text, bool relaxed)
 }
 
 zkXMLContainer::zkXMLContainer(const std::shared_ptr<host::FolderItem>& file)
-    : zkXMLContainer(ReadWhole(file), IsHtml(file)) {}
+    : zkXMLContainer(TextOf(file), IsHtml(file)) {}
 
 void zkXMLContainer::ParseIncrementally(const std::string& chunk, bool relaxed) {
   if (IsComplete()) return;

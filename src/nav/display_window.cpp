@@ -8,8 +8,6 @@
 namespace quill::nav {
 namespace {
 
-constexpr std::int32_t kTrailFontSize = 10;
-
 constexpr host::Rect kCanvasFrame = {0, 0, render::kPageWidth, render::kPageHeight};
 constexpr host::Rect kLinkFrame = {53, 51, 541, 22};
 constexpr host::Rect kTrailFrame = {23, 438, 342, 22};
@@ -23,15 +21,6 @@ host::WindowStyle ViewerStyle() {
   return style;
 }
 
-host::TextStyle Label(std::int32_t size, host::Color color, host::TextAlign align) {
-  host::TextStyle style;
-  style.face.TextFont = "System";
-  style.face.TextSize = size;
-  style.color = color;
-  style.align = align;
-  return style;
-}
-
 }  // namespace
 
 DisplayWindow::DisplayWindow(app::App& app, SideWindows side_windows)
@@ -40,14 +29,16 @@ DisplayWindow::DisplayWindow(app::App& app, SideWindows side_windows)
       side_windows_(std::move(side_windows)),
       Stext(AddControl<host::Canvas>(nullptr, kCanvasFrame)),
       TitleField(AddControl<host::StaticText>(&Stext, host::Rect{77, 5, 494, 27},
-                                              Label(14, host::kWhite, host::TextAlign::kCenter), "title")),
+                                              host::SystemText(14, host::kWhite, host::TextAlign::kCenter),
+                                              "title")),
       PageNumber(AddControl<host::StaticText>(&Stext, host::Rect{536, 9, 100, 20},
-                                              Label(12, host::kWhite, host::TextAlign::kRight), "")),
+                                              host::SystemText(12, host::kWhite, host::TextAlign::kRight),
+                                              "")),
       NumberCB(AddControl<host::CheckBox>(&Stext, host::Rect{0, 9, 80, 20}, "numbers",
-                                          Label(12, host::kBlack, host::TextAlign::kLeft).face)),
+                                          host::SystemText(12, host::kBlack).face)),
       ExitPB(AddButton({587, 432, 49, 25})),
       VersionField(AddControl<host::StaticText>(&Stext, host::Rect{340, 61, 73, 20},
-                                                Label(9, host::kBlack, host::TextAlign::kLeft), "")) {
+                                                host::SystemText(9, host::kBlack), "")) {
   Stext.SetBackdrop(app_.pictures.qmr());
   PageNumber.SetVisible(false);
   NumberCB.SetVisible(false);
@@ -80,7 +71,6 @@ void DisplayWindow::Init() {
     TextButton& back = AddButton(kTrailFrame);
     back.PutAway();
     back.IsPushed = [this](TextButton& button) { BackButton_IsPushed(button); };
-    back.SetFontSize(kTrailFontSize);
     BackButtonArray.push_back(&back);
   }
   VersionField.SetText("V " + app_.LongVersion());

@@ -96,8 +96,7 @@ void DisplayWindow::DrawText(const content::Page& page, const std::string& page_
   settings.show_offsets = NumberCB.Value();
   layout_ = render::LayOutPage(page, settings, host::Desktop::Current().Metrics());
   render::DrawWords(layout_, *G);
-  std::vector<std::shared_ptr<content::Link>> links;
-  page.GetLinks(links);
+  const auto links = LinksOf(page);
   for (const render::PlacedLink& placed : layout_.links) PlaceLink(placed, *links[placed.index]);
 }
 

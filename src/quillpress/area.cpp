@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "host/desktop.h"
-#include "markup/text_helpers.h"
 
 namespace quill::quillpress {
 namespace {
@@ -16,23 +15,17 @@ std::shared_ptr<host::FolderItem> ItemOf(const std::string& name) {
   return item ? item->TrueChild(name) : nullptr;
 }
 
-std::string BytesOf(const std::string& name) {
-  const auto item = ItemOf(name);
-  const auto stream = item ? item->OpenAsBinaryFile() : nullptr;
-  return stream ? stream->Read(stream->Length()) : std::string();
-}
-
 }  // namespace
 
 std::optional<OpenedFile> OpenFile(const std::string& name) {
-  markup::zkXMLToolkitGlobals::UseXMLFormatting = true;
   OpenedFile opened;
   opened.name = name;
-  if (!ItemOf(name)) return std::nullopt;
+  const auto item = ItemOf(name);
+  if (!item) return std::nullopt;
   opened.file = std::make_unique<content::zkXMLFileClass>(name);
   opened.document = std::make_shared<content::Document>();
   if (!opened.file->Init() || !opened.file->GetDocument(opened.document)) return std::nullopt;
-  opened.bytes = BytesOf(name);
+  opened.bytes = host::ReadWhole(*item).value_or("");
   return opened;
 }
 
@@ -44,12 +37,6 @@ std::vector<std::shared_ptr<content::Page>> PagesOf(const content::Document& doc
   std::vector<std::shared_ptr<content::Page>> pages;
   for (std::int32_t i = 0; i <= document.GetUbound(); ++i) pages.push_back(document.GetPageByOffset(i));
   return pages;
-}
-
-std::vector<std::shared_ptr<content::Link>> LinksOf(const content::Page& page) {
-  std::vector<std::shared_ptr<content::Link>> links;
-  page.GetLinks(links);
-  return links;
 }
 
 bool IsWholeNumber(const std::string& text) {

@@ -35,9 +35,6 @@ std::string CannotOpen(const std::string& name);
 // All pages of a document, in order.
 std::vector<std::shared_ptr<content::Page>> PagesOf(const content::Document& document);
 
-// All links of a page, in order.
-std::vector<std::shared_ptr<content::Link>> LinksOf(const content::Page& page);
-
 // Whether a text of the file reads as a number of digits and nothing else.
 bool IsWholeNumber(const std::string& text);
 

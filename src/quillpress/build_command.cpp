@@ -18,17 +18,10 @@ constexpr int kWritten = 0;
 constexpr int kWrong = 1;
 constexpr int kFailed = 2;
 
-std::optional<std::string> ReadFile(const fs::path& path) {
-  const auto file = host::DiskItem(path)->OpenAsBinaryFile();
-  if (!file) return std::nullopt;
-  const std::uint64_t length = file->Length();
-  std::string text = file->Read(length);
-  return text.size() == length ? std::optional(std::move(text)) : std::nullopt;
-}
-
 // The manuscript beside another; none if it isn't there.
 std::optional<Manuscript> ReadNeighbour(const fs::path& manuscript, const std::string& stem) {
-  const auto text = ReadFile(manuscript.parent_path() / (stem + manuscript.extension().string()));
+  const auto text =
+      host::ReadWhole(*host::DiskItem(manuscript.parent_path() / (stem + manuscript.extension().string())));
   return text ? std::optional(ReadManuscript(*text)) : std::nullopt;
 }
 
@@ -65,7 +58,7 @@ bool WriteFile(const fs::path& path, const std::string& bytes) {
 }  // namespace
 
 int Build(const fs::path& manuscript, const fs::path& output, std::ostream& errors) {
-  const auto text = ReadFile(manuscript);
+  const auto text = host::ReadWhole(*host::DiskItem(manuscript));
   if (!text) {
     errors << manuscript.string() << ": can't be read\n";
     return kFailed;

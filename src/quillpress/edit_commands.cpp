@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "nav/text_button.h"
 #include "quillpress/author_text.h"
 #include "quillpress/commands.h"
 #include "quillpress/complaint.h"
@@ -86,11 +87,11 @@ std::string AddLink(Editor& editor, const Arguments& arguments) {
   if (anchor.on.empty() && !arguments.length) throw Complaint("--offset asks for --length.");
   if (!arguments.target && arguments.document.empty())
     throw Complaint("Name the page that the link leads to with --to, or a document with --file.");
-  constexpr std::int32_t kDocument = 9;
   NewLink link;
   link.length = arguments.length.value_or(0);
   link.target = std::to_string(arguments.target.value_or(0));
-  link.type = arguments.type.value_or(arguments.document.empty() ? 0 : kDocument);
+  link.type =
+      arguments.type.value_or(arguments.document.empty() ? nav::link_type::kPage : nav::link_type::kDocument);
   link.file_name = ProgramText(arguments.document);
   editor.AddLink(arguments.page, anchor, link);
   return PageName(arguments.page) + ", link added";

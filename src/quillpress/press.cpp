@@ -4,6 +4,7 @@
 #include <memory>
 #include <unordered_map>
 
+#include "app/mode_table.h"
 #include "content/xml_file.h"
 #include "host/memory/memory_desktop.h"
 #include "host/numbers.h"
@@ -16,7 +17,6 @@
 namespace quill::quillpress {
 namespace {
 
-constexpr std::int32_t kFirstLife = 100;  // in an opening page's link, page 0 of Bio
 constexpr const char* kFileName = "pressed.xml";
 constexpr const char* kPath = "Quillmere.app/Contents/Data/pressed.xml";
 
@@ -93,7 +93,7 @@ class Resolver {
       case Goal::kEntry:
         return Find(entries_, run, "glossary beside this manuscript", 0);
       case Goal::kLife:
-        return Find(lives_, run, "manuscript bio beside this one", kFirstLife);
+        return Find(lives_, run, "manuscript bio beside this one", app::kBioPages);
       case Goal::kMode:
         return host::IntVal(run.target.name);
       case Goal::kDocument:

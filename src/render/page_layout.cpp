@@ -47,12 +47,6 @@ class LinkIndex {
   std::array<std::unordered_map<std::int32_t, std::size_t>, 4> starts_;
 };
 
-std::vector<std::shared_ptr<content::Link>> LinksOf(const content::Page& page) {
-  std::vector<std::shared_ptr<content::Link>> links;
-  page.GetLinks(links);
-  return links;
-}
-
 // A pen that walks the words of a page. Its fields are the state of the walk.
 class Flow {
  public:

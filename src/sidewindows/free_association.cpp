@@ -19,20 +19,12 @@ host::WindowStyle NotesStyle() {
   return style;
 }
 
-host::TextStyle NotesText() {
-  host::TextStyle style;
-  style.face.TextFont = "System";
-  style.face.TextSize = 10;
-  style.color = host::kBlack;
-  return style;
-}
-
 }  // namespace
 
 FreeAssociation::FreeAssociation()
     : Window(NotesStyle()),
-      EditField1(
-          AddControl<host::EditField>(nullptr, host::Rect{4, 4, 624, 341}, NotesText(), host::kWhite)) {}
+      EditField1(AddControl<host::EditField>(nullptr, host::Rect{4, 4, 624, 341},
+                                             host::SystemText(10, host::kBlack), host::kWhite)) {}
 
 // Each line comes with its line end, so that the lines stay lines.
 void FreeAssociation::OpenFile() {

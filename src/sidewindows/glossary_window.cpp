@@ -19,15 +19,6 @@ host::WindowStyle GlossaryStyle() {
   return style;
 }
 
-host::TextStyle TitleStyle() {
-  host::TextStyle style;
-  style.face.TextFont = "System";
-  style.face.TextSize = 12;
-  style.color = host::kWhite;
-  style.align = host::TextAlign::kCenter;
-  return style;
-}
-
 // Where a length stands when it is centred in another.
 std::int32_t Centred(std::int32_t start, std::int32_t outer, std::int32_t inner) {
   return host::ToInt32(start + (outer - inner) / 2.0);
@@ -41,8 +32,9 @@ GlossaryWindow::GlossaryWindow(app::App& app, const host::Window& viewer, const 
       viewer_(viewer),
       PageCanvas(AddControl<host::Canvas>(nullptr, kEntryCanvas)),
       ClosePB(AddControl<nav::TextButton>(&PageCanvas, kEntryClose, app, fonts)),
-      TitleField(
-          AddControl<host::StaticText>(&PageCanvas, host::Rect{9, 8, 428, 20}, TitleStyle(), "Label:")) {
+      TitleField(AddControl<host::StaticText>(&PageCanvas, host::Rect{9, 8, 428, 20},
+                                              host::SystemText(12, host::kWhite, host::TextAlign::kCenter),
+                                              "Label:")) {
   PageCanvas.SetBackdrop(app_.pictures.Black());
   ClosePB.IsPushed = [this](nav::TextButton&) { ClosePB_IsPushed(); };
 }

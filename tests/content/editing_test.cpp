@@ -27,9 +27,7 @@ std::string DumpOf(zkXMLFileClass& file) {
     const Page& page = *document->GetPageByOffset(i);
     dump << page.GetPageID() << " " << Quoted(page.GetTitle());
     for (std::int32_t column = 1; column <= page.GetColumns(); ++column) dump << Quoted(page.GetText(column));
-    std::vector<std::shared_ptr<Link>> links;
-    page.GetLinks(links);
-    for (const auto& link : links) {
+    for (const auto& link : LinksOf(page)) {
       dump << " (" << link->GetOffset() << " " << link->GetLength() << " " << link->GetLinkToPage() << " "
            << link->GetType() << " " << link->GetColumn() << " " << link->GetFilename() << ")";
     }
