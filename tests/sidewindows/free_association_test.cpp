@@ -64,13 +64,8 @@ TEST_F(NotesTest, TheEndOfTheProgramSaves) {
   ASSERT_TRUE(reader_->Click({"notes"}));
   Notes().Type("kept");
   const auto screen = reader_->desktop.screens.back();
-  std::string saved;
-  {
-    host::MemoryFiles& files = reader_->desktop.files;
-    reader_->EndProgram();
-    saved = files.Bytes(kNotes);
-  }
-  EXPECT_EQ(saved, "kept");
+  reader_->EndProgram();
+  EXPECT_EQ(OnDisk(), "kept");
   EXPECT_TRUE(screen->closed);
 }
 
