@@ -10,6 +10,7 @@
 
 #include "host/numbers.h"
 #include "host/qt/qt_desktop.h"
+#include "host/text_converter.h"
 #include "main/program.h"
 
 namespace {
@@ -41,7 +42,7 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "quillmere-snapshot: there is no mode %s\n", argv[2]);
     return 2;
   }
-  std::fputs(program.DisplayWindow().Dump().c_str(), stdout);
+  std::fputs(quill::host::MacRomanToUtf8(program.DisplayWindow().Dump()).c_str(), stdout);
   if (desktop.SaveScreen(program.DisplayWindow(), argv[1])) return 0;
   std::fprintf(stderr, "quillmere-snapshot: can't write %s\n", argv[1]);
   return 1;

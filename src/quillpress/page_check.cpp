@@ -21,10 +21,14 @@ constexpr std::int32_t kLabelHeight = 24;
 constexpr std::int32_t kExitLeft = 587;
 constexpr std::int32_t kExitTop = 437;
 constexpr std::int32_t kExitSize = 10;
+constexpr std::int32_t kTrailTop = 438;
 
 // Buttons on lines that follow each other in a paragraph share so many rows of
 // pixels, which are bare in the upper one.
 constexpr std::int32_t kSharedRows = 4;
+
+// So far words may reach out from under their button and not be seen.
+constexpr std::int32_t kHairline = 1;
 
 // What hangs below a base line, in parts of a line's height.
 constexpr std::int32_t kDescent = 4;
@@ -54,7 +58,10 @@ class PageCheck {
         words_(WordsOf(page, metrics)),
         settings_(ViewerSettings(page, mode, host::Str(at.page))),
         layout_(render::LayOutPage(page, settings_, metrics)) {
-    for (const render::PlacedWord& word : layout_.words) lines_[{word.column, word.offset}] = word.y;
+    for (const render::PlacedWord& word : layout_.words) {
+      lines_[{word.column, word.offset}] = word.y;
+      ends_[{word.column, word.offset}] = EndOf(word);
+    }
     for (const render::PlacedLink& link : layout_.links)
       lines_[{link.column, link.offset}] = link.top + settings_.button_rise;
   }
@@ -130,27 +137,37 @@ class PageCheck {
 
   void CheckEdges(const render::PlacedLink& link, const host::Rect& button, const Place& place) {
     const std::int32_t column_end = settings_.geometry.RightMargin[static_cast<std::size_t>(link.column)];
+    const std::int32_t line = lines_.at({link.column, link.offset});
+    bool breaks = false;
+    std::int32_t words_end = 0;
+    for (const WordPlace& word : WordsBeneath(link)) {
+      breaks = breaks || lines_.at(word) != line;
+      words_end = ends_.count(word) > 0 ? ends_.at(word) : words_end;
+    }
     if (Right(button) > kWindow.width || Bottom(button) > kWindow.height) {
       Add(Kind::kPastEdge, place, "its button runs past the edge of the window");
-    } else if (BreaksAcrossLines(link)) {
+    } else if (breaks) {
       Add(Kind::kPastEdge, place, "its words break across lines, and its button runs on past its column");
     } else if (Right(button) > column_end) {
       Add(Kind::kPastEdge, place,
           "its button runs " + host::Str(Right(button) - column_end) + " pixels past its column");
+    } else if (words_end > host::AddSaturating(Right(button), kHairline)) {
+      Add(Kind::kUncovered, place,
+          "its words stick out from under its button, since the word before it is bold");
     }
   }
 
-  // Whether a word that the button shows stands on another line of the flow than
-  // the first. Fields without text, from blanks in a row, are no words of it.
-  bool BreaksAcrossLines(const render::PlacedLink& link) const {
+  // The words of the flow that the button lies on, but for the first, which it
+  // stands for. Fields without text, from blanks in a row, are no words of it.
+  std::vector<WordPlace> WordsBeneath(const render::PlacedLink& link) const {
+    std::vector<WordPlace> beneath;
     auto word = lines_.find({link.column, link.offset});
-    const std::int32_t line = word->second;
     const std::vector<std::string_view> fields = host::Fields(link.text, ' ');
     for (std::size_t i = 1; i < fields.size(); ++i) {
       if (fields[i].empty() || word == lines_.end() || ++word == lines_.end()) continue;
-      if (word->second != line) return true;
+      beneath.push_back(word->first);
     }
-    return false;
+    return beneath;
   }
 
   std::string ExitLabel() const { return mode_ == app::kOpeningMode ? "Exit" : "Back"; }
@@ -161,19 +178,33 @@ class PageCheck {
     return {kExitLeft, kExitTop, host::ToInt32(metrics_.StringWidth(face, ExitLabel())), kLabelHeight};
   }
 
-  // Once for a column: what follows its first word out of sight is out of sight.
   void CheckText() {
+    const std::set<std::int32_t> lost = CheckDepth(kWindow.height, "below the edge of the window", {});
+    if (mode_ != app::kOpeningMode) CheckDepth(kTrailTop, "into the row of the trail", lost);
+  }
+
+  // Finds text that reaches below `depth`, in columns that are not `told` of yet,
+  // and adds them. Once for a column: what follows its first such word is no
+  // better off.
+  std::set<std::int32_t> CheckDepth(std::int32_t depth, const std::string& where,
+                                    std::set<std::int32_t> told) {
     const std::int32_t room = metrics_.TextHeight(settings_.face) / kDescent;
-    std::int32_t told = 0;
     for (const auto& [word, line] : lines_) {
-      if (word.first == told || host::AddSaturating(line, room) <= kWindow.height) continue;
-      told = word.first;
+      if (host::AddSaturating(line, room) <= depth || !told.insert(word.first).second) continue;
       Place place = at_;
-      place.column = told;
+      place.column = word.first;
       const PageWord* const first = WordAt(words_, word.first, word.second);
       Add(Kind::kBelowEdge, place,
-          "its text runs below the edge of the window from \"" + (first ? first->text : "") + "\" on");
+          "its text runs " + where + " from \"" + (first ? first->text : "") + "\" on");
     }
+    return told;
+  }
+
+  std::int32_t EndOf(const render::PlacedWord& word) const {
+    host::TextFace face = settings_.face;
+    face.Bold = word.bold;
+    face.Italic = word.italic;
+    return host::AddSaturating(word.x, host::ToInt32(metrics_.StringWidth(face, word.text)));
   }
 
   const content::Page& page_;
@@ -186,6 +217,7 @@ class PageCheck {
   const render::LayoutSettings settings_;
   const render::PageLayout layout_;
   std::map<WordPlace, std::int32_t> lines_;                                // base line of each word
+  std::map<WordPlace, std::int32_t> ends_;                                 // right edge of each drawn word
   std::set<WordPlace> taken_;                                              // words at which a link starts
   std::vector<std::pair<const render::PlacedLink*, host::Rect>> buttons_;  // looked at so far
 };

@@ -103,6 +103,8 @@ std::string_view NameOf(Kind kind) {
       return "overlap";
     case Kind::kPastEdge:
       return "past-edge";
+    case Kind::kUncovered:
+      return "uncovered";
     case Kind::kExitButton:
       return "exit-button";
     case Kind::kTooManyLinks:

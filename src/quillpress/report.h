@@ -22,6 +22,7 @@ enum class Kind {
   kSameWord,
   kOverlap,
   kPastEdge,
+  kUncovered,
   kExitButton,
   kTooManyLinks,
   kBelowEdge,

@@ -33,6 +33,9 @@ std::string ManyLinks() {
   return links + "</Links></Page></Document>";
 }
 
+const std::string kBehindBold =
+    "<Links>" + tests::LinkXml({11, 4, "", 4}) + tests::LinkXml({16, 8, "2"}) + "<Link";
+
 struct Fault {
   std::string file;
   std::string from, to;
@@ -41,6 +44,7 @@ struct Fault {
 
 const std::string kStage = "StageQMR.xml";
 const std::string kTv = "TVQMR.xml";
+const std::string kLow = std::string(13, '\n') + "low";
 const std::string kDeep = std::string(30, '\n') + "low";
 
 // clang-format off
@@ -63,9 +67,12 @@ const std::vector<Fault> kFaults = {
     {kTv, "Length>3<", "Length>30<", "link 1 \"one two three four five six seven\": its words break across"},
     {kTv, "one two", "one-and-two-and-three-and-four-and-five two", "pixels past its column\n"},
     {kStage, "Next and", "N" + std::string(90, 'x'), "its button runs past the edge of the window\n"},
+    {kStage, "<Links><Link", kBehindBold,
+     "link 2 \"Next and\": its words stick out from under its button, since the word before it is bold\n"},
     {kTv, "right", "right-and-on-and-on-and-on-and-on", "its button lies under the button \"Back\"\n"},
     {kStage, "<Links></Links></Page></Document>", ManyLinks(), "page 2 \"Next\": it has 62 links, and the"},
     {kStage, "Last.", kDeep, "column 1: its text runs below the edge of the window from \"low\" on\n"},
+    {kStage, "Last.", kLow, "column 1: its text runs into the row of the trail from \"low\" on\n"},
     {"StageGlossary.xml", "entry", kDeep, "page 1 \"Entry\": its text runs below the edge of the window"},
     {kStage, "Page>2<", "Page>1<", "page 2 \"Next\": no page links to it\n"},
     {kStage, "Type>1<", "Type>0<", "page 1 \"Entry\": no page links to this entry\n"},
