@@ -35,6 +35,13 @@ constexpr std::int32_t kDescent = 4;
 
 using WordPlace = std::pair<std::int32_t, std::int32_t>;  // column and offset
 
+// Where a word stands on the page; a link's first word is as wide as its button.
+struct Spot {
+  std::int32_t line = 0;  // base line
+  std::int32_t left = 0;
+  std::int32_t right = 0;
+};
+
 std::int32_t Right(const host::Rect& area) { return host::AddSaturating(area.left, area.width); }
 std::int32_t Bottom(const host::Rect& area) { return host::AddSaturating(area.top, area.height); }
 
@@ -58,12 +65,13 @@ class PageCheck {
         words_(WordsOf(page, metrics)),
         settings_(ViewerSettings(page, mode, host::Str(at.page))),
         layout_(render::LayOutPage(page, settings_, metrics)) {
-    for (const render::PlacedWord& word : layout_.words) {
-      lines_[{word.column, word.offset}] = word.y;
-      ends_[{word.column, word.offset}] = EndOf(word);
+    for (const render::PlacedWord& word : layout_.words)
+      spots_[{word.column, word.offset}] = {word.y, word.x, EndOf(word)};
+    for (const render::PlacedLink& link : layout_.links) {
+      if (!link.shown) continue;
+      const std::int32_t line = link.top + settings_.button_rise;
+      spots_[{link.column, link.offset}] = {line, link.left, Right(ButtonOf(link))};
     }
-    for (const render::PlacedLink& link : layout_.links)
-      lines_[{link.column, link.offset}] = link.top + settings_.button_rise;
   }
 
   void Run() {
@@ -77,6 +85,7 @@ class PageCheck {
       if (link.shown) CheckButton(link);
     }
     CheckText();
+    CheckOverwriting();
   }
 
  private:
@@ -121,8 +130,7 @@ class PageCheck {
 
   void CheckButton(const render::PlacedLink& link) {
     const Place place = PlaceOf(link.index);
-    const host::Rect button = {link.left, link.top,
-                               host::ToInt32(metrics_.StringWidth(settings_.face, link.text)), kLabelHeight};
+    const host::Rect button = ButtonOf(link);
     CheckEdges(link, button, place);
     if (SharedRows(button, ExitButton()) > 0)
       Add(Kind::kExitButton, place, "its button lies under the button \"" + ExitLabel() + "\"");
@@ -137,12 +145,14 @@ class PageCheck {
 
   void CheckEdges(const render::PlacedLink& link, const host::Rect& button, const Place& place) {
     const std::int32_t column_end = settings_.geometry.RightMargin[static_cast<std::size_t>(link.column)];
-    const std::int32_t line = lines_.at({link.column, link.offset});
+    const std::int32_t line = spots_.at({link.column, link.offset}).line;
     bool breaks = false;
     std::int32_t words_end = 0;
     for (const WordPlace& word : WordsBeneath(link)) {
-      breaks = breaks || lines_.at(word) != line;
-      words_end = ends_.count(word) > 0 ? ends_.at(word) : words_end;
+      const Spot& spot = spots_.at(word);
+      breaks = breaks || spot.line != line;
+      words_end = spot.right;
+      beneath_.insert(word);
     }
     if (Right(button) > kWindow.width || Bottom(button) > kWindow.height) {
       Add(Kind::kPastEdge, place, "its button runs past the edge of the window");
@@ -161,10 +171,10 @@ class PageCheck {
   // stands for. Fields without text, from blanks in a row, are no words of it.
   std::vector<WordPlace> WordsBeneath(const render::PlacedLink& link) const {
     std::vector<WordPlace> beneath;
-    auto word = lines_.find({link.column, link.offset});
+    auto word = spots_.find({link.column, link.offset});
     const std::vector<std::string_view> fields = host::Fields(link.text, ' ');
     for (std::size_t i = 1; i < fields.size(); ++i) {
-      if (fields[i].empty() || word == lines_.end() || ++word == lines_.end()) continue;
+      if (fields[i].empty() || word == spots_.end() || ++word == spots_.end()) continue;
       beneath.push_back(word->first);
     }
     return beneath;
@@ -189,8 +199,8 @@ class PageCheck {
   std::set<std::int32_t> CheckDepth(std::int32_t depth, const std::string& where,
                                     std::set<std::int32_t> told) {
     const std::int32_t room = metrics_.TextHeight(settings_.face) / kDescent;
-    for (const auto& [word, line] : lines_) {
-      if (host::AddSaturating(line, room) <= depth || !told.insert(word.first).second) continue;
+    for (const auto& [word, spot] : spots_) {
+      if (host::AddSaturating(spot.line, room) <= depth || !told.insert(word.first).second) continue;
       Place place = at_;
       place.column = word.first;
       const PageWord* const first = WordAt(words_, word.first, word.second);
@@ -198,6 +208,31 @@ class PageCheck {
           "its text runs " + where + " from \"" + (first ? first->text : "") + "\" on");
     }
     return told;
+  }
+
+  // A tab leads to its stop even where that lies behind the pen, and the words
+  // behind it then stand on those before it. Once for a column.
+  void CheckOverwriting() {
+    const std::pair<const WordPlace, Spot>* before = nullptr;
+    std::set<std::int32_t> told;
+    for (const auto& word : spots_) {
+      const auto& [at, spot] = word;
+      if (spot.left == spot.right || beneath_.count(at) > 0) continue;
+      if (before != nullptr && before->first.first == at.first && before->second.line == spot.line &&
+          host::AddSaturating(spot.left, kHairline) < before->second.right && told.insert(at.first).second) {
+        const PageWord* const first = WordAt(words_, at.first, at.second);
+        Place place = at_;
+        place.column = at.first;
+        Add(Kind::kOverwritten, place,
+            "\"" + (first ? first->text : "") + "\" is written over what stands before its stop");
+      }
+      before = &word;
+    }
+  }
+
+  host::Rect ButtonOf(const render::PlacedLink& link) const {
+    return {link.left, link.top, host::ToInt32(metrics_.StringWidth(settings_.face, link.text)),
+            kLabelHeight};
   }
 
   std::int32_t EndOf(const render::PlacedWord& word) const {
@@ -216,8 +251,8 @@ class PageCheck {
   const std::vector<PageWord> words_;
   const render::LayoutSettings settings_;
   const render::PageLayout layout_;
-  std::map<WordPlace, std::int32_t> lines_;                                // base line of each word
-  std::map<WordPlace, std::int32_t> ends_;                                 // right edge of each drawn word
+  std::map<WordPlace, Spot> spots_;
+  std::set<WordPlace> beneath_;                                            // words that a button lies on
   std::set<WordPlace> taken_;                                              // words at which a link starts
   std::vector<std::pair<const render::PlacedLink*, host::Rect>> buttons_;  // looked at so far
 };

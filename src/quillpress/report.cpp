@@ -105,6 +105,8 @@ std::string_view NameOf(Kind kind) {
       return "past-edge";
     case Kind::kUncovered:
       return "uncovered";
+    case Kind::kOverwritten:
+      return "overwritten";
     case Kind::kExitButton:
       return "exit-button";
     case Kind::kTooManyLinks:

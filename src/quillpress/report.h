@@ -23,6 +23,7 @@ enum class Kind {
   kOverlap,
   kPastEdge,
   kUncovered,
+  kOverwritten,
   kExitButton,
   kTooManyLinks,
   kBelowEdge,

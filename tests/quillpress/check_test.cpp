@@ -67,6 +67,7 @@ const std::vector<Fault> kFaults = {
     {kTv, "Length>3<", "Length>30<", "link 1 \"one two three four five six seven\": its words break across"},
     {kTv, "one two", "one-and-two-and-three-and-four-and-five two", "pixels past its column\n"},
     {kStage, "Next and", "N" + std::string(90, 'x'), "its button runs past the edge of the window\n"},
+    {kTv, "five six", "five \tsix", "column 1: \"six\" is written over what stands before its stop\n"},
     {kStage, "<Links><Link", kBehindBold,
      "link 2 \"Next and\": its words stick out from under its button, since the word before it is bold\n"},
     {kTv, "right", "right-and-on-and-on-and-on-and-on", "its button lies under the button \"Back\"\n"},
