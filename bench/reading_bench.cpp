@@ -8,11 +8,12 @@
 #include <sstream>
 #include <string>
 
+#include "app/product.h"
 #include "content/loader.h"
 #include "content/xml_file.h"
 #include "host/memory/memory_desktop.h"
 #include "host/qt/qt_desktop.h"
-#include "main/program.h"
+#include "reader/program.h"
 #include "render/page_layout.h"
 
 namespace {
@@ -88,7 +89,7 @@ int main(int argc, char** argv) {
   quill::host::QtDesktop::Options options;
   options.screen = quill::host::QtDesktop::Screen::kNone;
   options.messages = quill::host::QtDesktop::Messages::kStandardError;
-  quill::host::QtDesktop desktop(argc, argv, options);
+  quill::host::QtDesktop desktop(argc, argv, quill::app::Quillmere(), options);
   quill::Program reader;
   program = &reader;
   benchmark::RunSpecifiedBenchmarks();

@@ -18,10 +18,12 @@ constexpr std::array<FieldPlace, 6> kFields = {{{1, 1}, {1, 2}, {2, 2}, {1, 3}, 
 void App::Init() {
   TestMode = false;
   Trace("App open");
-  for (std::size_t i = 0; i < kModes.size(); ++i) QMRFileName[i] = kModes[i].content_file;
-  for (std::size_t i = 0; i < kModes.size(); ++i) GlossaryFileName[i] = kModes[i].glossary_file;
-  fontsize = 12;
-  fontheightoffset = 15;
+  for (std::size_t i = 0; i < modes_.size(); ++i) {
+    QMRFileName.at(i) = modes_[i].content_file;
+    GlossaryFileName.at(i) = modes_[i].glossary_file;
+  }
+  fontsize = kFontSize;
+  fontheightoffset = kFontHeightOffset;
 }
 
 std::int32_t App::GetColumnFromField(std::int32_t field) {

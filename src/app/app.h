@@ -7,7 +7,9 @@
 #include <memory>
 #include <string>
 
+#include "app/mode_table.h"
 #include "app/pictures.h"
+#include "content/bundle.h"
 #include "content/document.h"
 #include "host/application.h"
 
@@ -17,6 +19,13 @@ class App final : public host::Application {
  public:
   // Slots of the file name tables. Those behind the last mode stay empty.
   static constexpr std::size_t kSlots = 11;
+
+  // What `Init` sets `fontsize` and `fontheightoffset` to.
+  static constexpr std::int32_t kFontSize = 12;
+  static constexpr std::int32_t kFontHeightOffset = 15;
+
+  // `modes`, at most `kSlots` rows, must outlive the application.
+  explicit App(Modes modes = kModes) : modes_(modes) {}
 
   void Event_Open() override { Init(); }
 
@@ -32,8 +41,12 @@ class App final : public host::Application {
   // a column outside the layout and for a layout that doesn't exist.
   static std::int32_t GetFieldFromColumn(std::int32_t column, std::int32_t columns);
 
-  // The look and the files of the current mode.
-  const Mode& CurrentMode() const { return kModes.at(static_cast<std::size_t>(mode)); }
+  // The table of modes, and the row of the current one.
+  Modes AllModes() const { return modes_; }
+  const Mode& CurrentMode() const { return modes_[static_cast<std::size_t>(mode)]; }
+
+  // The version text from the application's bundle; empty if it holds none.
+  static std::string LongVersion() { return content::BundleVersion(); }
 
   // A place for a breakpoint: the glossary passes it before it draws.
   void debugmethod() {}
@@ -52,11 +65,14 @@ class App final : public host::Application {
   std::array<std::string, kSlots> QMRFileName;
   std::array<std::string, kSlots> GlossaryFileName;
 
-  std::int32_t mode = 0;              // 0 to 5, an index of `kModes`
+  std::int32_t mode = 0;              // an index of the table of modes
   std::int32_t fontsize = 0;          // points, of page text, glossary and links
   std::int32_t fontheightoffset = 0;  // pixels from a link button's top to its base line
 
   Pictures pictures;
+
+ private:
+  Modes modes_;
 };
 
 }  // namespace quill::app

@@ -1,10 +1,9 @@
 // What a content file holds, in memory: an ordered list of pages, filled once by
 // the loader and then only read. It knows nothing of markup, files or drawing.
 //
-// A page has an id, decimal text that the file gives it, and a position, its
-// place in the list counted from 0. In a well-made file the two are the same
-// number. `GetPage` goes by the id, `AddLink` and `GetPageByOffset` by the
-// position.
+// A page has an id, decimal text that the file gives it, and an index in the
+// list, which counts from 0. In a well-made file the two are the same number.
+// `GetPage` goes by the id, `AddLink` and `GetPageByOffset` by the index.
 #pragma once
 
 #include <cstdint>
@@ -18,14 +17,14 @@ namespace quill::content {
 
 class Document {
  public:
-  // The first page whose id reads as that number (`host::IntVal`: "07" is 7, "x"
+  // The first page whose id reads as that number (`base::IntVal`: "07" is 7, "x"
   // is 0), null if there is none.
   std::shared_ptr<Page> GetPage(std::int32_t id) const;
 
-  // The page at that position, null if there is no such position.
-  std::shared_ptr<Page> GetPageByOffset(std::int32_t position) const;
+  // The page at that index, null if there is none.
+  std::shared_ptr<Page> GetPageByOffset(std::int32_t index) const;
 
-  // The last position, -1 for an empty document.
+  // The last index, -1 for an empty document.
   std::int32_t GetUbound() const { return static_cast<std::int32_t>(PageList.size()) - 1; }
 
   // Appends a page of as many columns as there are texts.
@@ -33,8 +32,11 @@ class Document {
   void AddPage(std::string id, std::string title, std::string text1, std::string text2);
   void AddPage(std::string id, std::string title, std::string text1, std::string text2, std::string text3);
 
-  // Adds a link to the page whose position is the number that `id` reads as.
-  // Dropped if there is no such position.
+  // The same for a list of texts, one to three.
+  void AppendPage(std::string id, std::string title, TextList texts);
+
+  // Adds a link to the page whose index is the number that `id` reads as. Dropped
+  // if there is no such page.
   void AddLink(const std::string& id, std::string offset, std::string length, std::string link_to_page,
                std::int32_t type, std::int32_t column = 0, std::string file_name = {});
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "host/numbers.h"
+#include "base/numbers.h"
 
 namespace quill::content {
 namespace {
@@ -22,7 +22,7 @@ void Take(const zkXMLElement* element, std::string& value) {
 
 std::int32_t NumberOf(const zkXMLElement& element, const char* attribute, std::int32_t otherwise) {
   const std::shared_ptr<markup::zkXMLAttribute> found = element.GetAttribute(attribute);
-  return found ? host::IntVal(found->GetValue()) : otherwise;
+  return found ? base::IntVal(found->GetValue()) : otherwise;
 }
 
 // Calls `visit` for each child element, in order.
@@ -94,7 +94,6 @@ class Loader {
   void LoadPage(const zkXMLElement& page);
 
  private:
-  void AddPage(std::int32_t columns);
   void LoadLink(const zkXMLElement& link);
 
   Document& document_;
@@ -115,21 +114,13 @@ void Loader::LoadPage(const zkXMLElement& page) {
     const auto slot = static_cast<std::size_t>(i);
     Take(parts.texts[slot], texts_[slot]);
   }
-  AddPage(columns);
+  // Any number of columns but 1 and 2 makes a page of three.
+  const std::ptrdiff_t texts = columns == 1 || columns == 2 ? columns : kMostColumns;
+  document_.AppendPage(page_id_, title_, {texts_.begin(), texts_.begin() + texts});
   if (parts.links == nullptr) return;
   ForEachElement(*parts.links, [this](const zkXMLElement& child) {
     if (child.IsNamed("Link")) LoadLink(child);
   });
-}
-
-void Loader::AddPage(std::int32_t columns) {
-  if (columns == 1) {
-    document_.AddPage(page_id_, title_, texts_[0]);
-  } else if (columns == 2) {
-    document_.AddPage(page_id_, title_, texts_[0], texts_[1]);
-  } else {
-    document_.AddPage(page_id_, title_, texts_[0], texts_[1], texts_[2]);
-  }
 }
 
 void Loader::LoadLink(const zkXMLElement& link) {
@@ -142,7 +133,7 @@ void Loader::LoadLink(const zkXMLElement& link) {
   Take(parts.type, type);
   std::string file_name;
   Take(parts.file_name, file_name);
-  document_.AddLink(page_id_, offset_, length_, target_, host::IntVal(type), NumberOf(link, "column", 1),
+  document_.AddLink(page_id_, offset_, length_, target_, base::IntVal(type), NumberOf(link, "column", 1),
                     std::move(file_name));
 }
 

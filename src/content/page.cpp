@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
-#include "host/text.h"
+#include "base/text.h"
 
 namespace quill::content {
 namespace {
 
 bool Matches(const Link& link, const std::string& offset, const std::string& length) {
-  return host::EqualText(link.GetLength(), length) && host::EqualText(link.GetOffset(), offset);
+  return base::EqualText(link.GetLength(), length) && base::EqualText(link.GetOffset(), offset);
 }
 
 }  // namespace
@@ -50,6 +50,24 @@ void Page::SetText(std::string text1, std::string text2, std::string text3) {
   columns = 3;
 }
 
+void Page::SetTexts(TextList texts) {
+  const std::size_t count = texts.size();
+  texts.resize(3);
+  if (count <= 1) {
+    SetText(std::move(texts[0]));
+  } else if (count == 2) {
+    SetText(std::move(texts[0]), std::move(texts[1]));
+  } else {
+    SetText(std::move(texts[0]), std::move(texts[1]), std::move(texts[2]));
+  }
+}
+
+TextList Page::Texts() const {
+  TextList texts;
+  for (std::int32_t column = 1; column <= columns; ++column) texts.push_back(GetText(column));
+  return texts;
+}
+
 bool Page::LinkExists(const std::string& offset, const std::string& length) const {
   return GetLink(offset, length) != nullptr;
 }
@@ -73,29 +91,29 @@ void Page::AddLink(std::string offset, std::string length, std::string link_to_p
                                  std::move(file_name)));
 }
 
-void Page::UpdateLink(std::int32_t position, std::string offset, std::string length, std::string link_to_page,
+void Page::UpdateLink(std::int32_t index, std::string offset, std::string length, std::string link_to_page,
                       std::int32_t type) {
-  if (!HasPosition(position)) return;
-  Link& link = *Links[static_cast<std::size_t>(position)];
+  if (!HasLink(index)) return;
+  Link& link = *Links[static_cast<std::size_t>(index)];
   link.SetOffset(std::move(offset));
   link.SetLength(std::move(length));
   link.SetLinkToPage(std::move(link_to_page));
   link.SetType(type);
 }
 
-void Page::DeleteLink(std::int32_t position) {
-  if (HasPosition(position)) Links.erase(Links.begin() + position);
+void Page::DeleteLink(std::int32_t index) {
+  if (HasLink(index)) Links.erase(Links.begin() + index);
 }
 
 void Page::DeleteLink(const std::string& offset) {
   const auto found = std::find_if(Links.begin(), Links.end(), [&](const std::shared_ptr<Link>& link) {
-    return host::EqualText(link->GetOffset(), offset);
+    return base::EqualText(link->GetOffset(), offset);
   });
   if (found != Links.end()) Links.erase(found);
 }
 
-bool Page::HasPosition(std::int32_t position) const {
-  return position >= 0 && static_cast<std::size_t>(position) < Links.size();
+bool Page::HasLink(std::int32_t index) const {
+  return index >= 0 && static_cast<std::size_t>(index) < Links.size();
 }
 
 std::vector<std::shared_ptr<Link>> LinksOf(const Page& page) {

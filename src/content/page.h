@@ -2,7 +2,7 @@
 // in the order of the file. Shared by reference with whoever reads it.
 //
 // Links are told apart by their offset and length as text: "07" is not "7".
-// Positions in the list of links count from 0.
+// Indices of the list of links count from 0.
 #pragma once
 
 #include <cstdint>
@@ -13,6 +13,9 @@
 #include "content/link.h"
 
 namespace quill::content {
+
+// The texts of a page's columns, one to three.
+using TextList = std::vector<std::string>;
 
 class Page {
  public:
@@ -33,6 +36,9 @@ class Page {
   const std::string& GetText() const { return Text1; }
   const std::string& GetText(std::int32_t column) const;
 
+  // The texts of all its columns.
+  TextList Texts() const;
+
   void SetPageID(std::string id) { PageID = std::move(id); }
   void SetTitle(std::string title) { Title = std::move(title); }
 
@@ -41,6 +47,10 @@ class Page {
   void SetText(std::string text);
   void SetText(std::string text1, std::string text2);
   void SetText(std::string text1, std::string text2, std::string text3);
+
+  // The same for a list of one to three; of a longer one the first three count,
+  // an empty one is one empty text.
+  void SetTexts(TextList texts);
 
   // Makes `links` a list of the page's links; the same objects, not copies.
   void GetLinks(std::vector<std::shared_ptr<Link>>& links) const { links = Links; }
@@ -55,18 +65,18 @@ class Page {
   void AddLink(std::string offset, std::string length, std::string link_to_page, std::int32_t type,
                std::int32_t column = 0, std::string file_name = {});
 
-  // Sets four fields of the link at `position`; its column and file name stay.
-  // Does nothing if there is no such position.
-  void UpdateLink(std::int32_t position, std::string offset, std::string length, std::string link_to_page,
+  // Sets four fields of the link at `index`; its column and file name stay. Does
+  // nothing if there is none.
+  void UpdateLink(std::int32_t index, std::string offset, std::string length, std::string link_to_page,
                   std::int32_t type);
 
-  // Removes the link at `position`, if there is such a position; the first link
+  // Removes the link at `index`, if there is one; the first link
   // with that offset in whatever column, if there is one.
-  void DeleteLink(std::int32_t position);
+  void DeleteLink(std::int32_t index);
   void DeleteLink(const std::string& offset);
 
  private:
-  bool HasPosition(std::int32_t position) const;
+  bool HasLink(std::int32_t index) const;
 
   std::string PageID;
   std::string Text1;

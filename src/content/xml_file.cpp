@@ -2,24 +2,16 @@
 
 #include <exception>
 
+#include "base/exceptions.h"
+#include "base/numbers.h"
+#include "base/text_converter.h"
+#include "content/bundle.h"
 #include "content/loader.h"
 #include "host/desktop.h"
-#include "host/exceptions.h"
-#include "host/numbers.h"
 #include "markup/exceptions.h"
 
 namespace quill::content {
 namespace {
-
-// The bundle's folder `Contents`, null if a folder on the way isn't there.
-std::shared_ptr<host::FolderItem> ContentsFolder() {
-  std::shared_ptr<host::FolderItem> folder = host::GetFolderItem("");
-  for (const char* const name : {"Quillmere.app", "Contents"}) {
-    if (!folder || !folder->Exists()) return nullptr;
-    folder = folder->Child(name);
-  }
-  return folder && folder->Exists() ? folder : nullptr;
-}
 
 // Sets `value` if `AppInfo` has such a child. One with nothing inside is a fault
 // of the file: throws `OutOfBoundsException`.
@@ -33,7 +25,7 @@ bool zkXMLFileClass::Init() {
   try {
     return Open();
   } catch (const markup::zkXMLParsingException&) {
-    host::MsgBox("Unable to parse " + TheFilename);
+    host::MsgBox("Unable to parse " + ShownName());
   } catch (const std::exception&) {
     // Nothing that a reader could mend; whoever asked says that it failed.
   }
@@ -41,7 +33,7 @@ bool zkXMLFileClass::Init() {
 }
 
 bool zkXMLFileClass::GetDocument(std::shared_ptr<Document> document) {
-  if (!document || !Root) throw host::NilObjectException();
+  if (!document || !Root) throw base::NilObjectException();
   myDocument = std::move(document);
   TheDocument = Root->GetElement("Document");
   if (!TheDocument) return false;
@@ -57,26 +49,26 @@ bool zkXMLFileClass::Open() {
   TheContainer = std::make_shared<markup::zkXMLContainer>(TheFile);
   Root = TheContainer->GetElement("Root");
   if (!Root) {
-    host::MsgBox("No Root found in " + TheFilename);
+    host::MsgBox("No Root found in " + ShownName());
     return false;
   }
   AppInfo = Root->GetElement("AppInfo");
   if (!AppInfo) {
-    host::MsgBox("No AppInfo found in " + TheFilename);
+    host::MsgBox("No AppInfo found in " + ShownName());
     return false;
   }
   ReadAppInfo();
   return true;
 }
 
+std::string zkXMLFileClass::ShownName() const { return base::Utf8ToMacRoman(TheFilename); }
+
 // Sets `TheFile`.
 bool zkXMLFileClass::Locate() {
-  const std::shared_ptr<host::FolderItem> contents = ContentsFolder();
-  if (!contents) return false;
-  const std::shared_ptr<host::FolderItem> data = contents->TrueChild("Data");
-  TheFile = data ? data->TrueChild(TheFilename) : nullptr;
+  if (!BundleContents()) return false;
+  TheFile = ContentFile(TheFilename);
   if (TheFile) return true;
-  host::MsgBox("Unable to locate " + TheFilename + ".  Program Aborting.");
+  host::MsgBox("Unable to locate " + ShownName() + ".  Program Aborting.");
   host::Quit(0);
   return false;
 }
@@ -84,9 +76,9 @@ bool zkXMLFileClass::Locate() {
 void zkXMLFileClass::ReadAppInfo() {
   ReadHead(*AppInfo, "Application", AppName);
   ReadHead(*AppInfo, "Version", AppVersion);
-  std::string last_page_id = host::Str(LastPageID);
+  std::string last_page_id = base::Str(LastPageID);
   ReadHead(*AppInfo, "LastPageID", last_page_id);
-  LastPageID = host::IntVal(last_page_id);
+  LastPageID = base::IntVal(last_page_id);
 }
 
 }  // namespace quill::content

@@ -23,7 +23,7 @@
 //
 // Edits change the tree and nothing else: to see them in a `Document`, call
 // `GetDocument` with a new one. A page is addressed by its id, of which only the
-// number counts (`host::Val`); the page with id n is `Page` element n + 1. What
+// number counts (`base::Val`); the page with id n is `Page` element n + 1. What
 // isn't there (a page, its `Links`, a `Title` to update) is passed over without a
 // word. Every edit throws `NilObjectException` out of the order above.
 //
@@ -33,10 +33,8 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "content/document.h"
 #include "host/files.h"
@@ -46,7 +44,8 @@ namespace quill::content {
 
 class zkXMLFileClass {
  public:
-  // Takes the file's name inside the bundle's folder `Data`; touches no file.
+  // Takes the file's name inside the bundle's folder `Data`, UTF-8; touches no
+  // file.
   explicit zkXMLFileClass(std::string file_name) { SetFilename(std::move(file_name)); }
 
   void SetFilename(std::string file_name) { TheFilename = std::move(file_name); }
@@ -73,6 +72,10 @@ class zkXMLFileClass {
   void AddPage(const std::string& title, const std::string& text1, const std::string& text2,
                const std::string& text3);
 
+  // The same for a list of texts, one to three. Throws `OutOfBoundsException`, and
+  // appends nothing, when the last id is the largest there is.
+  void AppendPage(const std::string& title, const TextList& texts);
+
   // Sets the title and the first texts of a page, of those that it has; the
   // number of columns stays. Gives it a list of links if it has none.
   void UpdatePage(const std::string& page_id, const std::string& title, const std::string& text);
@@ -80,6 +83,9 @@ class zkXMLFileClass {
                   const std::string& text2);
   void UpdatePage(const std::string& page_id, const std::string& title, const std::string& text1,
                   const std::string& text2, const std::string& text3);
+
+  // The same for a list of texts.
+  void ReplaceTexts(const std::string& page_id, const std::string& title, const TextList& texts);
 
   // Appends a link to those of a page, whatever else lies at that offset.
   // Without a column it is for column 1.
@@ -122,9 +128,9 @@ class zkXMLFileClass {
   bool Locate();
   void ReadAppInfo();
 
-  using Texts = std::initializer_list<std::string_view>;
-  void AppendPage(const std::string& title, Texts texts);
-  void ReplaceTexts(const std::string& page_id, const std::string& title, Texts texts) const;
+  // The file's name as messages show it, Mac Roman.
+  std::string ShownName() const;
+
   std::shared_ptr<markup::zkXMLElement> LinksOf(const std::string& page_id) const;
 
   std::shared_ptr<host::FolderItem> TheFile;

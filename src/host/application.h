@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
 namespace quill::host {
 
@@ -16,9 +15,6 @@ class Application {
 
   void SetMenuBar(std::shared_ptr<host::MenuBar> menu_bar) { menu_bar_ = std::move(menu_bar); }
   const std::shared_ptr<host::MenuBar>& GetMenuBar() const { return menu_bar_; }
-
-  // The version text from the application's bundle; empty if it holds none.
-  std::string LongVersion() const;
 
   // Comes before the Open event of the first window.
   virtual void Event_Open() {}

@@ -10,7 +10,7 @@ void RectControl::ShowState() {
   Peer().SetEnabled(enabled_);
 }
 
-void RectControl::Place(const Rect& frame) {
+void RectControl::Place(const base::Rect& frame) {
   if (frame == frame_) return;
   frame_ = frame;
   Peer().Place(frame_);
@@ -33,7 +33,7 @@ void RectControl::SetEnabled(bool enabled) {
   Peer().SetEnabled(enabled);
 }
 
-Canvas::Canvas(Window& window, Canvas* parent, const Rect& frame)
+Canvas::Canvas(Window& window, Canvas* parent, const base::Rect& frame)
     : RectControl(frame), peer_(window.Peer().NewCanvas(*this, parent ? parent->peer_.get() : nullptr)) {
   ShowState();
 }
@@ -43,7 +43,7 @@ void Canvas::SetBackdrop(std::shared_ptr<Picture> backdrop) {
   peer_->SetBackdrop(backdrop_);
 }
 
-StaticText::StaticText(Window& window, Canvas* parent, const Rect& frame, const TextStyle& style,
+StaticText::StaticText(Window& window, Canvas* parent, const base::Rect& frame, const TextStyle& style,
                        std::string text)
     : RectControl(frame), peer_(window.Peer().NewStaticText(style, parent ? parent->peer_.get() : nullptr)) {
   SetText(std::move(text));
@@ -55,7 +55,7 @@ void StaticText::SetText(std::string text) {
   peer_->SetText(text_);
 }
 
-CheckBox::CheckBox(Window& window, Canvas* parent, const Rect& frame, const std::string& caption,
+CheckBox::CheckBox(Window& window, Canvas* parent, const base::Rect& frame, const std::string& caption,
                    const TextFace& face)
     : RectControl(frame),
       peer_(window.Peer().NewCheckBox(*this, caption, face, parent ? parent->peer_.get() : nullptr)) {
@@ -67,8 +67,8 @@ void CheckBox::SetValue(bool value) {
   peer_->SetValue(value);
 }
 
-EditField::EditField(Window& window, Canvas* parent, const Rect& frame, const TextStyle& style,
-                     Color back_color)
+EditField::EditField(Window& window, Canvas* parent, const base::Rect& frame, const TextStyle& style,
+                     base::Color back_color)
     : RectControl(frame),
       peer_(window.Peer().NewEditField(style, back_color, parent ? parent->peer_.get() : nullptr)) {
   ShowState();

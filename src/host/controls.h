@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/geometry.h"
+#include "base/geometry.h"
 #include "host/graphics.h"
 #include "host/peers.h"
 
@@ -42,7 +42,7 @@ class RectControl {
   virtual void Event_Open() {}
 
  protected:
-  explicit RectControl(const Rect& frame) : frame_(frame) {}
+  explicit RectControl(const base::Rect& frame) : frame_(frame) {}
 
   virtual ControlPeer& Peer() = 0;
 
@@ -50,9 +50,9 @@ class RectControl {
   void ShowState();
 
  private:
-  void Place(const Rect& frame);
+  void Place(const base::Rect& frame);
 
-  Rect frame_;
+  base::Rect frame_;
   bool visible_ = true;
   bool enabled_ = true;
 };
@@ -62,7 +62,7 @@ class RectControl {
 class Canvas : public RectControl {
  public:
   // `parent` must be a control of the same window, or null.
-  Canvas(Window& window, Canvas* parent, const Rect& frame);
+  Canvas(Window& window, Canvas* parent, const base::Rect& frame);
 
   const std::shared_ptr<Picture>& Backdrop() const { return backdrop_; }
   void SetBackdrop(std::shared_ptr<Picture> backdrop);
@@ -95,7 +95,8 @@ class Canvas : public RectControl {
 // One line of text.
 class StaticText : public RectControl {
  public:
-  StaticText(Window& window, Canvas* parent, const Rect& frame, const TextStyle& style, std::string text);
+  StaticText(Window& window, Canvas* parent, const base::Rect& frame, const TextStyle& style,
+             std::string text);
 
   const std::string& Text() const { return text_; }
   void SetText(std::string text);
@@ -110,7 +111,7 @@ class StaticText : public RectControl {
 
 class CheckBox : public RectControl {
  public:
-  CheckBox(Window& window, Canvas* parent, const Rect& frame, const std::string& caption,
+  CheckBox(Window& window, Canvas* parent, const base::Rect& frame, const std::string& caption,
            const TextFace& face);
 
   bool Value() const { return value_; }
@@ -130,7 +131,8 @@ class CheckBox : public RectControl {
 // Several lines of text to be edited, UTF-8; see `WindowPeer::NewEditField`.
 class EditField : public RectControl {
  public:
-  EditField(Window& window, Canvas* parent, const Rect& frame, const TextStyle& style, Color back_color);
+  EditField(Window& window, Canvas* parent, const base::Rect& frame, const TextStyle& style,
+            base::Color back_color);
 
   std::string Text() const { return peer_->Text(); }
   void SetText(const std::string& text) { peer_->SetText(text); }

@@ -2,8 +2,7 @@
 
 #include <utility>
 
-#include "host/application.h"
-#include "host/exceptions.h"
+#include "base/exceptions.h"
 
 namespace quill::host {
 namespace {
@@ -19,7 +18,7 @@ Desktop::~Desktop() {
 }
 
 Desktop& Desktop::Current() {
-  if (current == nullptr) throw NilObjectException();
+  if (current == nullptr) throw base::NilObjectException();
   return *current;
 }
 
@@ -40,7 +39,5 @@ std::shared_ptr<FolderItem> PreferencesFolder() { return Desktop::Current().Pref
 std::shared_ptr<Picture> ResourceFork::GetPicture(std::int32_t id) {
   return Desktop::Current().StoredPicture(id);
 }
-
-std::string Application::LongVersion() const { return Desktop::Current().LongVersion(); }
 
 }  // namespace quill::host

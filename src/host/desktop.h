@@ -40,11 +40,8 @@ class Desktop {
 
   // Starts the application with that creator code on the document at `path`
   // (`FolderItem::Path`) and goes on at once; false if none could be started.
-  // "MACS" is the desktop's own opener of documents, "QLD7" the companion.
+  // What a code stands for is told in `Product::companions`.
   virtual bool OpenDocument(const std::string& application, const std::string& path) = 0;
-
-  // The version of the application that the bundle states.
-  virtual std::string LongVersion() = 0;
 
   virtual FontMetrics& Metrics() = 0;
 

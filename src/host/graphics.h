@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/geometry.h"
+#include "base/geometry.h"
 
 namespace quill::host {
 
@@ -56,7 +56,7 @@ class Graphics : public TextFace {
   // falls outside is cut off.
   virtual void DrawString(std::string_view text, std::int32_t x, std::int32_t y) = 0;
 
-  virtual void FillRect(const Rect& area) = 0;
+  virtual void FillRect(const base::Rect& area) = 0;
 
   // A line one pixel thick; both ends belong to it.
   virtual void DrawLine(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2) = 0;
@@ -64,7 +64,7 @@ class Graphics : public TextFace {
   // The whole picture at its own size, its upper left corner at `x`, `y`.
   virtual void DrawPicture(const Picture& picture, std::int32_t x, std::int32_t y) = 0;
 
-  Color ForeColor = kBlack;
+  base::Color ForeColor = base::kBlack;
 
  private:
   FontMetrics& metrics_;

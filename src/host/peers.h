@@ -9,7 +9,7 @@
 #include <memory>
 #include <string>
 
-#include "host/geometry.h"
+#include "base/geometry.h"
 #include "host/graphics.h"
 
 namespace quill::host {
@@ -23,7 +23,7 @@ class ControlPeer {
   virtual ~ControlPeer() = default;
 
   // `frame` counts from the parent's upper left corner.
-  virtual void Place(const Rect& frame) = 0;
+  virtual void Place(const base::Rect& frame) = 0;
   virtual void SetVisible(bool visible) = 0;
 
   // A control that isn't enabled gets no mouse events.
@@ -68,12 +68,12 @@ enum class TextAlign { kLeft = 0, kCenter = 1, kRight = 2 };
 
 struct TextStyle {
   TextFace face;
-  Color color = kBlack;
+  base::Color color = base::kBlack;
   TextAlign align = TextAlign::kLeft;
 };
 
 // A style in the desktop's own text face, `size` in points.
-inline TextStyle SystemText(std::int32_t size, Color color, TextAlign align = TextAlign::kLeft) {
+inline TextStyle SystemText(std::int32_t size, base::Color color, TextAlign align = TextAlign::kLeft) {
   TextStyle style;
   style.face.TextFont = "System";
   style.face.TextSize = size;
@@ -90,7 +90,7 @@ struct WindowStyle {
   std::int32_t width = 0;
   std::int32_t height = 0;
   Frame frame = Frame::kDocument;
-  Color back_color = kWhite;
+  base::Color back_color = base::kWhite;
   bool close_button = false;
   bool resizeable = false;  // and with it the minimise and maximise boxes
 };
@@ -108,11 +108,11 @@ class WindowPeer {
 
   // Several lines of text with a scroll bar, to be edited. The distances of its
   // frame from the four edges of the window stay as the window's size changes.
-  virtual std::unique_ptr<EditFieldPeer> NewEditField(const TextStyle& style, Color back_color,
+  virtual std::unique_ptr<EditFieldPeer> NewEditField(const TextStyle& style, base::Color back_color,
                                                       ControlPeer* parent) = 0;
 
   // Place and size of the window's content on the screen.
-  virtual Rect Frame() const = 0;
+  virtual base::Rect Frame() const = 0;
 
   virtual void MoveTo(std::int32_t left, std::int32_t top) = 0;
 

@@ -3,9 +3,9 @@
 #include <optional>
 #include <utility>
 
+#include "base/exceptions.h"
+#include "base/text.h"
 #include "host/desktop.h"
-#include "host/exceptions.h"
-#include "host/text.h"
 #include "markup/exceptions.h"
 
 namespace quill::markup {
@@ -13,14 +13,14 @@ namespace {
 
 std::string TextOf(const std::shared_ptr<host::FolderItem>& file) {
   std::optional<std::string> text = file ? host::ReadWhole(*file) : std::nullopt;
-  if (!text) throw host::NilObjectException();
+  if (!text) throw base::NilObjectException();
   return std::move(*text);
 }
 
 bool IsHtml(const std::shared_ptr<host::FolderItem>& file) {
   if (!file) return false;
   const std::string name = file->Name();
-  return host::EqualText(host::Right(name, 4), ".htm") || host::EqualText(host::Right(name, 5), ".html");
+  return base::EqualText(base::Right(name, 4), ".htm") || base::EqualText(base::Right(name, 5), ".html");
 }
 
 }  // namespace

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "host/exceptions.h"
-#include "host/text.h"
+#include "base/exceptions.h"
+#include "base/text.h"
 
 namespace quill::markup {
 namespace {
@@ -15,19 +15,19 @@ template <typename T>
 const std::shared_ptr<T>& EntryOf(const std::vector<std::shared_ptr<T>>& list, std::int32_t i) {
   static const std::shared_ptr<T> null_entry;
   if (i == 0) return null_entry;
-  if (i < 0 || static_cast<std::size_t>(i) > list.size()) throw host::OutOfBoundsException();
+  if (i < 0 || static_cast<std::size_t>(i) > list.size()) throw base::OutOfBoundsException();
   return list[static_cast<std::size_t>(i) - 1];
 }
 
 template <typename T>
 void RemoveFrom(std::vector<std::shared_ptr<T>>& list, std::int32_t i) {
-  if (i < 1 || static_cast<std::size_t>(i) > list.size()) throw host::OutOfBoundsException();
+  if (i < 1 || static_cast<std::size_t>(i) > list.size()) throw base::OutOfBoundsException();
   list.erase(list.begin() + (i - 1));
 }
 
 template <typename T>
 void InsertInto(std::vector<std::shared_ptr<T>>& list, std::shared_ptr<T> entry, std::int32_t i) {
-  if (i < 1 || static_cast<std::size_t>(i) > list.size() + 1) throw host::OutOfBoundsException();
+  if (i < 1 || static_cast<std::size_t>(i) > list.size() + 1) throw base::OutOfBoundsException();
   list.insert(list.begin() + (i - 1), std::move(entry));
 }
 
@@ -45,7 +45,7 @@ std::shared_ptr<zkXMLElement> NthElement(const Content& list, std::int32_t i, Te
 bool HasAttribute(const zkXMLElement& element, std::string_view attribute, std::string_view value) {
   for (std::int32_t i = 1; i <= element.AttributeCount(); ++i) {
     const std::shared_ptr<zkXMLAttribute>& candidate = element.GetAttribute(i);
-    if (candidate->IsNamed(attribute) && host::EqualText(candidate->GetValue(), value)) return true;
+    if (candidate->IsNamed(attribute) && base::EqualText(candidate->GetValue(), value)) return true;
   }
   return false;
 }
@@ -75,7 +75,7 @@ zkXMLElement::~zkXMLElement() {
 }
 
 bool zkXMLElement::IsNamed(std::string_view other) const {
-  return name == other || host::EqualText(name, other);
+  return name == other || base::EqualText(name, other);
 }
 
 const std::shared_ptr<zkXMLObject>& zkXMLElement::GetContent(std::int32_t i) const {
@@ -152,7 +152,7 @@ std::shared_ptr<zkXMLTextSection> zkXMLElement::GetTextSection(std::int32_t i) c
 }
 
 void zkXMLElement::AddObject(std::shared_ptr<zkXMLObject> object) {
-  if (!object) throw host::NilObjectException();
+  if (!object) throw base::NilObjectException();
   if (auto attribute = std::dynamic_pointer_cast<zkXMLAttribute>(object)) {
     att.push_back(std::move(attribute));
   } else {
@@ -161,7 +161,7 @@ void zkXMLElement::AddObject(std::shared_ptr<zkXMLObject> object) {
 }
 
 void zkXMLElement::InsertObject(std::shared_ptr<zkXMLObject> object, std::int32_t i) {
-  if (!object) throw host::NilObjectException();
+  if (!object) throw base::NilObjectException();
   if (auto attribute = std::dynamic_pointer_cast<zkXMLAttribute>(object)) {
     InsertInto(att, std::move(attribute), i);
   } else {
@@ -199,7 +199,7 @@ void zkXMLElement::takeContentOf(zkXMLElement& other) {
 std::shared_ptr<zkXMLElement> CastToXMLElement(const std::shared_ptr<zkXMLObject>& object) {
   if (!object) return nullptr;
   zkXMLElement* const element = object->asElement();
-  if (element == nullptr) throw host::IllegalCastException();
+  if (element == nullptr) throw base::IllegalCastException();
   return {object, element};
 }
 

@@ -3,7 +3,7 @@
 //
 // Both lists count from 1, and their entry 0 is a null object. Every lookup is a
 // linear walk from entry 1 over this element's own children, stops at the first
-// hit and gives null when nothing fits. Names are compared by `host::EqualText`,
+// hit and gives null when nothing fits. Names are compared by `base::EqualText`,
 // so that the case of letters does not count. An element owns its share of its
 // children; it must not become its own descendant.
 //

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "host/text.h"
+#include "base/text.h"
 
 namespace quill::markup {
 namespace {
@@ -103,9 +103,9 @@ bool EndTagSearch::AllFollow(std::string_view text) const {
   KeyTree tree;
   std::vector<std::size_t> nodes;
   for (const Requirement& required : required_) {
-    nodes.push_back(tree.Add(std::string(kEndTagOpening) + host::Uppercase(required.name)));
+    nodes.push_back(tree.Add(std::string(kEndTagOpening) + base::Uppercase(required.name)));
   }
-  tree.Read(host::Uppercase(text));
+  tree.Read(base::Uppercase(text));
   for (std::size_t i = 0; i < nodes.size(); ++i) {
     const std::size_t least = required_[i].from + kEndTagOpening.size() + required_[i].name.size();
     if (tree.LastEnd(nodes[i]) < least) return false;

@@ -2,21 +2,21 @@
 // no line, no position.
 #pragma once
 
-#include "host/exceptions.h"
+#include "base/exceptions.h"
 
 namespace quill::markup {
 
 // Malformed markup.
-class zkXMLParsingException : public host::RuntimeException {
+class zkXMLParsingException : public base::RuntimeException {
  public:
-  zkXMLParsingException() : host::RuntimeException("malformed markup") {}
+  zkXMLParsingException() : base::RuntimeException("malformed markup") {}
 };
 
 // A chunk ran out inside a construct. Never leaves
 // `zkXMLContainer::ParseIncrementally`.
-class zkXMLIncrementEnd : public host::RuntimeException {
+class zkXMLIncrementEnd : public base::RuntimeException {
  public:
-  zkXMLIncrementEnd() : host::RuntimeException("end of a chunk") {}
+  zkXMLIncrementEnd() : base::RuntimeException("end of a chunk") {}
 };
 
 }  // namespace quill::markup

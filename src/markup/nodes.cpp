@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/text.h"
+#include "base/text.h"
 #include "markup/text_helpers.h"
 
 namespace quill::markup {
@@ -15,7 +15,7 @@ constexpr std::string_view kGuardedInstructionEnd = "?&gt;";
 
 std::string ReplaceIfPresent(std::string text, std::string_view what, std::string_view with) {
   if (text.find(what) == std::string::npos) return text;
-  return host::ReplaceAll(text, what, with);
+  return base::ReplaceAll(text, what, with);
 }
 
 // Whether a text section may hold the raw text as it stands: no escape, no
@@ -66,7 +66,7 @@ void zkXMLAttribute::SetData(Variant value) {
   DecodeEntities(data);
 }
 
-bool zkXMLAttribute::IsNamed(std::string_view other) const { return host::EqualText(name, other); }
+bool zkXMLAttribute::IsNamed(std::string_view other) const { return base::EqualText(name, other); }
 
 zkXMLTextSection::zkXMLTextSection(std::string_view raw) {
   if (IsPlain(raw)) {

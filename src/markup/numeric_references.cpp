@@ -8,8 +8,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "host/numbers.h"
-#include "host/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
 
 namespace quill::markup {
 namespace {
@@ -18,7 +18,7 @@ constexpr std::size_t kNone = std::string_view::npos;
 constexpr std::string_view kOpening = "&#";
 constexpr std::size_t kLongestReference = 13;  // "&#2147483647;"
 
-// All that `host::Val` may read.
+// All that `base::Val` may read.
 constexpr std::string_view kNumberCharacters = " \t\n\v\f\r+-.0123456789eE";
 
 // Characters of which a reference in plain spelling consists.
@@ -40,10 +40,10 @@ Reference PlainReference(std::string_view text) {
 }
 
 std::int32_t NumberAtHead(std::string_view text) {
-  return host::IntVal(text.substr(0, text.find_first_not_of(kNumberCharacters)));
+  return base::IntVal(text.substr(0, text.find_first_not_of(kNumberCharacters)));
 }
 
-char CharacterOf(std::int32_t number) { return host::Chr(number)[0]; }
+char CharacterOf(std::int32_t number) { return base::Chr(number)[0]; }
 
 // Whether the character may become a part of a reference with what stands
 // around it.
@@ -147,7 +147,7 @@ std::int32_t Cells::NumberAt(std::size_t cell) const {
   for (; cell != End() && kNumberCharacters.find(cells_[cell]) != kNone; cell = next_[cell]) {
     number += cells_[cell];
   }
-  return host::IntVal(number);
+  return base::IntVal(number);
 }
 
 Reference Cells::ReferenceAt(std::size_t cell) const {

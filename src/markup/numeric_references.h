@@ -2,7 +2,7 @@
 //
 // The rule is a loop with a cursor over a text that changes under it. From the
 // cursor on it takes the next "&#"; without one, or without a ";" behind it, it
-// ends. It reads the number behind the "&#" the way `host::IntVal` does, and if
+// ends. It reads the number behind the "&#" the way `base::IntVal` does, and if
 // that is above 0, the first place in the WHOLE text that holds the reference in
 // its plain spelling ("&#", the number without leading zeros, ";") becomes the
 // character. Then the cursor stands one character behind where the "&#" was
@@ -25,7 +25,7 @@
 
 namespace quill::markup {
 
-// Characters above 255 come out as `host::Chr` gives them.
+// Characters above 255 come out as `base::Chr` gives them.
 void ReplaceNumericReferences(std::string& text);
 
 }  // namespace quill::markup

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "host/exceptions.h"
-#include "host/text.h"
+#include "base/exceptions.h"
+#include "base/text.h"
 #include "markup/exceptions.h"
 #include "markup/nodes.h"
 
@@ -14,7 +14,7 @@ constexpr std::string_view kCDataOpening = "![CDATA[";
 constexpr std::string_view kCommentOpening = "!--";
 
 bool OpensWith(std::string_view text, std::string_view opening) {
-  return host::EqualText(text.substr(0, opening.size()), opening);
+  return base::EqualText(text.substr(0, opening.size()), opening);
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ void Parser::Open(const Frame& frame) {
   if (open_.size() - 1 <= kMaxOpenElements) return;
   // A missing end tag on the way down comes first.
   if (Strict()) RequireEndTags();
-  throw host::StackOverflowException();
+  throw base::StackOverflowException();
 }
 
 // Opens `element` and, in incremental use, the elements that an earlier chunk
@@ -153,7 +153,7 @@ void Parser::StartTag(std::size_t begin, std::size_t end) {
   nodes_.push_back(std::move(child));
   if (in_.incremental) {
     const std::string key = "</" + std::string(LookAheadKey(frame));
-    frame.end_tag_ahead = host::InStr(in_.position + 1, in_.text, key) > 0;
+    frame.end_tag_ahead = base::InStr(in_.position + 1, in_.text, key) > 0;
   }
   Open(frame);
 }
@@ -246,7 +246,7 @@ void Parser::HandOver(const Frame& frame) {
 // What must follow "</" somewhere behind the start tag: the tag with its ">" up
 // to the first blank. Only the blank separates; a tab or a line end stays in.
 std::string_view Parser::LookAheadKey(const Frame& frame) const {
-  const std::string_view tag = host::Trim(Text(frame.tag_begin, frame.tag_end + 1));
+  const std::string_view tag = base::Trim(Text(frame.tag_begin, frame.tag_end + 1));
   return tag.substr(0, tag.find(' '));
 }
 
@@ -255,7 +255,7 @@ std::string_view Parser::LookAheadKey(const Frame& frame) const {
 void Parser::RequireUnlessAt(std::size_t begin, const Frame& frame) {
   const std::string_view key = LookAheadKey(frame);
   const std::string_view found = Text(begin, begin + key.size());
-  if (found != key && !host::EqualText(found, key)) end_tags_.Require(key, frame.tag_end + 1);
+  if (found != key && !base::EqualText(found, key)) end_tags_.Require(key, frame.tag_end + 1);
 }
 
 // Settles the look-ahead of all elements so far, those still open included.

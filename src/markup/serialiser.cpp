@@ -17,7 +17,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/text.h"
+#include "base/text.h"
 #include "markup/container.h"
 #include "markup/element.h"
 #include "markup/nodes.h"
@@ -27,9 +27,9 @@ namespace quill::markup {
 namespace {
 
 std::string WithEntities(std::string_view text) {
-  std::string escaped = host::ReplaceAll(text, "&", "&amp;");
-  escaped = host::ReplaceAll(escaped, "<", "&lt;");
-  return host::ReplaceAll(escaped, ">", "&gt;");
+  std::string escaped = base::ReplaceAll(text, "&", "&amp;");
+  escaped = base::ReplaceAll(escaped, "<", "&lt;");
+  return base::ReplaceAll(escaped, ">", "&gt;");
 }
 
 void AppendLineBreakAndIndent(std::string& out, std::int64_t depth) {
@@ -121,17 +121,17 @@ std::string zkXMLComment::GetXMLString() const { return "<!--" + comment + "-->"
 
 std::string zkXMLPInstruction::GetXMLString() const { return "<?" + data + "?>"; }
 
-std::string zkXMLDeclaration::GetXMLString() const { return "<!" + host::Uppercase(type) + " " + data + ">"; }
+std::string zkXMLDeclaration::GetXMLString() const { return "<!" + base::Uppercase(type) + " " + data + ">"; }
 
 std::string zkXMLTextSection::GetXMLString() const {
   std::string text = WithEntities(EncodeXMLText(data));
-  text = host::ReplaceAll(text, "'", "&apos;");
-  text = host::ReplaceAll(text, "\"", "&quot;");
-  return host::ReplaceAll(text, "\n", zkXMLLineBreak());
+  text = base::ReplaceAll(text, "'", "&apos;");
+  text = base::ReplaceAll(text, "\"", "&quot;");
+  return base::ReplaceAll(text, "\n", zkXMLLineBreak());
 }
 
 std::string zkXMLAttribute::GetXMLString() const {
-  std::string value = host::ReplaceAll(EncodeXMLText(data), "\r", " ");
+  std::string value = base::ReplaceAll(EncodeXMLText(data), "\r", " ");
   std::erase(value, '^');
   value = WithEntities(value);
   // There is no escape that the reader would undo.

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <memory>
 
-#include "host/exceptions.h"
-#include "host/numbers.h"
-#include "host/text.h"
+#include "base/exceptions.h"
+#include "base/numbers.h"
+#include "base/text.h"
 #include "markup/numeric_references.h"
 
 namespace quill::markup {
@@ -13,15 +13,15 @@ namespace {
 
 constexpr std::string_view kWhiteSpace = " \t\n\r";
 
-std::shared_ptr<host::TextConverter> txtEncoder;
-std::shared_ptr<host::TextConverter> txtDecoder;
+std::shared_ptr<base::TextConverter> txtEncoder;
+std::shared_ptr<base::TextConverter> txtDecoder;
 
 std::size_t PositionOf(std::size_t index) { return index == std::string_view::npos ? 0 : index + 1; }
 std::size_t IndexOf(std::size_t position) { return position > 0 ? position - 1 : 0; }
 
-std::string Convert(std::shared_ptr<host::TextConverter>& converter, std::string_view text) {
+std::string Convert(std::shared_ptr<base::TextConverter>& converter, std::string_view text) {
   if (!converter) {
-    SetXMLEncodings(host::GetTextEncoding(513, 0, 0), host::GetTextEncoding(0, 0, 0));
+    SetXMLEncodings(base::GetTextEncoding(513, 0, 0), base::GetTextEncoding(0, 0, 0));
   }
   converter->clear();
   return converter->convert(text);
@@ -36,7 +36,7 @@ std::string WithReferences(std::string_view text) {
   for (const char c : text) {
     const std::int32_t code = static_cast<unsigned char>(c);
     if (code >= 127 || code < 32) {
-      result.append("&#").append(host::Str(code)).append(";");
+      result.append("&#").append(base::Str(code)).append(";");
     } else {
       result += c;
     }
@@ -72,9 +72,9 @@ std::size_t NonWhiteSpaceInStr(std::string_view text, std::size_t start) {
 }
 
 std::string EncodeXMLText(std::string_view text) {
-  std::string escaped = host::ReplaceAll(text, "&", "&amp;");
-  escaped = host::ReplaceAll(escaped, "<", "&lt;");
-  escaped = host::ReplaceAll(escaped, ">", "&gt;");
+  std::string escaped = base::ReplaceAll(text, "&", "&amp;");
+  escaped = base::ReplaceAll(escaped, "<", "&lt;");
+  escaped = base::ReplaceAll(escaped, ">", "&gt;");
   std::string converted = Convert(txtEncoder, escaped);
   return converted == escaped ? escaped : WithReferences(converted);
 }
@@ -90,10 +90,10 @@ std::string DecodeXMLText(std::string text) {
   return IsAscii(text) ? text : Convert(txtDecoder, text);
 }
 
-void SetXMLEncodings(host::TextEncoding file, host::TextEncoding internal) {
-  txtDecoder = host::GetTextConverter(file, internal);
-  txtEncoder = host::GetTextConverter(internal, file);
-  if (!txtDecoder || !txtEncoder) throw host::NilObjectException();
+void SetXMLEncodings(base::TextEncoding file, base::TextEncoding internal) {
+  txtDecoder = base::GetTextConverter(file, internal);
+  txtEncoder = base::GetTextConverter(internal, file);
+  if (!txtDecoder || !txtEncoder) throw base::NilObjectException();
 }
 
 void ReplaceByCharacter(std::string& text, std::string_view what, char with) {

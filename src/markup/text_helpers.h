@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/text_converter.h"
+#include "base/text_converter.h"
 
 namespace quill::markup {
 
@@ -56,7 +56,7 @@ std::string DecodeXMLText(std::string text);
 // Sets the encodings of file and program for both functions above, which do it
 // themselves at the first call. Throws `NilObjectException` if there is no
 // converter between the two.
-void SetXMLEncodings(host::TextEncoding file, host::TextEncoding internal);
+void SetXMLEncodings(base::TextEncoding file, base::TextEncoding internal);
 
 // Every `what` in `text` by the character `with`, from left to right and in
 // place; what was put in is not looked at again. `what` must not be empty.

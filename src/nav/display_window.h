@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "app/app.h"
+#include "app/destination.h"
 #include "content/xml_file.h"
 #include "host/controls.h"
 #include "nav/history.h"
@@ -29,7 +30,7 @@ struct SideWindows {
   std::function<void()> show_notes;
 };
 
-class DisplayWindow final : public host::Window, public FontSource {
+class DisplayWindow final : public host::Window {
  public:
   // `app` must outlive the window. Nothing is loaded and no page drawn before
   // `Open`.
@@ -39,11 +40,11 @@ class DisplayWindow final : public host::Window, public FontSource {
   // records it in the trail unless it is page 0 or the mode the opening one.
   void ShowPage(const std::string& page);
 
-  // Enters a mode and shows its first page. `mode` must be one (`app::IsMode`).
+  // Enters a mode and shows its first page. `mode` must be one of the table.
   void ChooseMode(std::int32_t mode);
 
   // Name of the text face of pages and buttons; empty, which is the desktop's.
-  std::string GetFont() const override { return Font; }
+  const std::string& GetFont() const { return Font; }
 
   // What the viewer shows, as a few lines of text: mode, page, title, trail,
   // words and buttons in use.
@@ -72,17 +73,17 @@ class DisplayWindow final : public host::Window, public FontSource {
   void LinkButton_IsPushed(TextButton& button);
   void ExitPB_IsPushed();
   void BackButton_IsPushed(TextButton& button);
-  void PushInOpeningMode(const TextButton& button);
+  void EnterMode(const app::Destination& destination);
 
   // Hand a document to another application; `filename` is Mac Roman.
   void ShowDocument(const std::string& filename);
   void ShowPDF(const std::string& filename);
 
-  TextButton& AddButton(const host::Rect& frame);
+  TextButton& AddButton(const base::Rect& frame);
 
   app::App& app_;
   SideWindows side_windows_;
-  std::string Font;  // the controls ask for it as they are made
+  std::string Font;  // names the desktop's own text face
 
   // The controls, in the order they are made. Each but the first lies on it.
   host::Canvas& Stext;

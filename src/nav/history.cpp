@@ -1,13 +1,13 @@
 #include "nav/history.h"
 
-#include "host/text.h"
+#include "base/text.h"
 
 namespace quill::nav {
 
 void History::ResetHistory(const std::string& page) {
   bool cut = false;
   while (!cut && !pages_.empty()) {
-    cut = host::EqualText(pages_.back(), page);
+    cut = base::EqualText(pages_.back(), page);
     pages_.pop_back();
   }
 }

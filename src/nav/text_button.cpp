@@ -1,27 +1,29 @@
 #include "nav/text_button.h"
 
+#include "base/numbers.h"
 #include "host/desktop.h"
-#include "host/numbers.h"
+#include "render/page_furniture.h"
 
 namespace quill::nav {
 namespace {
 
-constexpr std::int32_t kDepth = 16;  // bits a pixel
-constexpr std::int32_t kLabelHeight = 24;
+namespace link_type = content::link_type;
+
+constexpr std::int32_t kDepth = 16;   // bits a pixel
 constexpr std::int32_t kLineGap = 2;  // between a label's base line and the line under it
 
 // The look of a link type.
 struct Look {
-  host::Color text_color;
+  base::Color text_color;
   bool line;
 };
 
-constexpr Look kPageLook = {host::RGB(10, 128, 255), true};
-constexpr Look kGlossaryLook = {host::RGB(10, 255, 128), false};
-constexpr Look kPlainLook = {host::RGB(255, 255, 255), false};
-constexpr Look kStyledLook = {host::RGB(255, 128, 128), false};
-constexpr Look kDocumentLook = {host::RGB(128, 128, 255), true};
-constexpr Look kTrailLook = {host::RGB(128, 255, 128), false};
+constexpr Look kPageLook = {base::RGB(10, 128, 255), true};
+constexpr Look kGlossaryLook = {base::RGB(10, 255, 128), false};
+constexpr Look kPlainLook = {base::RGB(255, 255, 255), false};
+constexpr Look kStyledLook = {base::RGB(255, 128, 128), false};
+constexpr Look kDocumentLook = {base::RGB(128, 128, 255), true};
+constexpr Look kTrailLook = {base::RGB(128, 255, 128), false};
 
 // Null for the types from 10 on that have no look of their own. Below that,
 // every number without one has the look of the styled runs.
@@ -44,28 +46,36 @@ const Look* LookOf(std::int32_t type) {
 
 }  // namespace
 
-TextButton::TextButton(host::Window& window, host::Canvas* parent, const host::Rect& frame, app::App& app,
-                       const FontSource& fonts)
-    : Canvas(window, parent, frame), app_(app), fonts_(fonts) {}
+TextButton::TextButton(host::Window& window, host::Canvas* parent, const base::Rect& frame, app::App& app)
+    : Canvas(window, parent, frame), app_(app) {}
 
 void TextButton::init() {
-  if (Width() > 0 && Height() > 0) {
-    SetBackdrop(host::NewPicture(Width(), Height(), kDepth));
-    if (!Backdrop()) {
-      host::MsgBox("memory error, text button");
-      return;
-    }
-  }
   const app::Mode& mode = app_.CurrentMode();
+  if (Width() > 0 && Height() > 0 && !PrepareBackdrop(mode.green_buttons)) {
+    host::MsgBox("memory error, text button");
+    return;
+  }
   BackgroundColor = mode.button_background;
   if (host::Graphics* const graphics = Backdrop() ? Backdrop()->GetGraphics() : nullptr) {
-    const auto green = mode.green_buttons ? app_.pictures.green() : nullptr;
-    if (green) graphics->DrawPicture(*green, 0, 0);
-    graphics->TextFont = fonts_.GetFont();
     graphics->TextSize = app_.fontsize;
     graphics->ForeColor = BackgroundColor;
   }
   Rollover = false;
+}
+
+// A parked button is always of one size, so that a page makes pictures for the
+// buttons that the page before it used and for no others. False if there is no
+// picture.
+bool TextButton::PrepareBackdrop(bool green) {
+  const auto& kept = Backdrop();
+  if (kept && kept->Width() == Width() && kept->Height() == Height() && green == backdrop_is_green_)
+    return true;
+  SetBackdrop(host::NewPicture(Width(), Height(), kDepth));
+  backdrop_is_green_ = green;
+  host::Graphics* const graphics = Backdrop() ? Backdrop()->GetGraphics() : nullptr;
+  const auto picture = green && graphics != nullptr ? app_.pictures.green() : nullptr;
+  if (picture) graphics->DrawPicture(*picture, 0, 0);
+  return Backdrop() != nullptr;
 }
 
 void TextButton::SetText(const std::string& label) {
@@ -77,8 +87,8 @@ void TextButton::SetText(const std::string& label) {
     return;
   }
   graphics->TextSize = fontsize;
-  SetWidth(host::ToInt32(graphics->StringWidth(text)));
-  SetHeight(kLabelHeight);
+  SetWidth(base::ToInt32(graphics->StringWidth(text)));
+  SetHeight(render::kLabelHeight);
   DrawText();
 }
 
@@ -96,7 +106,7 @@ void TextButton::SetColors() {
   const Look* const look = LookOf(LinkType);
   if (look == nullptr) return;
   TextColor = look->text_color;
-  HighlightColor = host::RGB(255, 255, 0);
+  HighlightColor = base::RGB(255, 255, 0);
   DrawLine = look->line;
 }
 

@@ -11,35 +11,19 @@
 #include <string>
 
 #include "app/app.h"
+#include "content/link_types.h"
 #include "host/controls.h"
 
 namespace quill::nav {
 
-// What a link leads to; the number is the one in the content files. Types 3 to
-// 8 are runs of styled words, which can't be pressed.
-namespace link_type {
-inline constexpr std::int32_t kPage = 0;
-inline constexpr std::int32_t kGlossary = 1;
-inline constexpr std::int32_t kPlain = 2;
-inline constexpr std::int32_t kDocument = 9;
-inline constexpr std::int32_t kTrail = 99;  // of the program's own buttons
-}  // namespace link_type
-
-// Where a button gets the name of its text face from.
-class FontSource {
- public:
-  virtual ~FontSource() = default;
-  virtual std::string GetFont() const = 0;
-};
-
 class TextButton final : public host::Canvas {
  public:
-  // `app` and `fonts` must outlive the button.
-  TextButton(host::Window& window, host::Canvas* parent, const host::Rect& frame, app::App& app,
-             const FontSource& fonts);
+  // `app` must outlive the button.
+  TextButton(host::Window& window, host::Canvas* parent, const base::Rect& frame, app::App& app);
 
   // Prepares the button for the current mode: ground, backdrop, text face. The
-  // backdrop is made anew in the button's present size.
+  // backdrop, on which labels are measured, is made anew when the button's size
+  // or what lies on it has changed.
   void init();
 
   // Sets the label, makes the button as wide as it is at the size given with
@@ -78,21 +62,23 @@ class TextButton final : public host::Canvas {
  private:
   void SetColors();
   void DrawText();
+  bool PrepareBackdrop(bool green);
   void TakeOutOfUse();
 
   app::App& app_;
-  const FontSource& fonts_;
 
   std::string text;
-  host::Color TextColor;
-  host::Color HighlightColor;
-  host::Color BackgroundColor;
+  base::Color TextColor;
+  base::Color HighlightColor;
+  base::Color BackgroundColor;
   bool DrawLine = false;  // under the label
   bool Rollover = false;  // the mouse is over the button
   std::int32_t LinkType = 0;
   std::string Page;  // where it leads: as a rule a page number
   std::string Filename;
   std::int32_t fontsize = 0;  // points; 0 is the host's default
+
+  bool backdrop_is_green_ = false;
 };
 
 }  // namespace quill::nav

@@ -1,12 +1,15 @@
 #include "quillpress/build_command.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
+#include <iostream>
+#include <memory>
 #include <optional>
 #include <string>
 
+#include "authoring/manuscript/manuscript_reader.h"
+#include "authoring/press/press.h"
 #include "host/qt/qt_files.h"
-#include "quillpress/manuscript.h"
-#include "quillpress/press.h"
 
 namespace quill::quillpress {
 namespace {
@@ -14,33 +17,34 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kGlossaryEnd = "_glossary";
-constexpr int kWritten = 0;
-constexpr int kWrong = 1;
-constexpr int kFailed = 2;
 
 // The manuscript beside another; none if it isn't there.
-std::optional<Manuscript> ReadNeighbour(const fs::path& manuscript, const std::string& stem) {
+std::optional<authoring::Manuscript> ReadNeighbour(const fs::path& manuscript, const std::string& stem) {
   const auto text =
       host::ReadWhole(*host::DiskItem(manuscript.parent_path() / (stem + manuscript.extension().string())));
-  return text ? std::optional(ReadManuscript(*text)) : std::nullopt;
+  return text ? std::optional(authoring::ReadManuscript(*text)) : std::nullopt;
 }
 
-Problems ByLine(Problems problems) {
-  std::stable_sort(problems.begin(), problems.end(),
-                   [](const Problem& a, const Problem& b) { return a.line < b.line; });
-  return problems;
+authoring::Diagnostics ByLine(authoring::Diagnostics diagnostics) {
+  std::stable_sort(
+      diagnostics.begin(), diagnostics.end(),
+      [](const authoring::Diagnostic& a, const authoring::Diagnostic& b) { return a.line < b.line; });
+  return diagnostics;
 }
 
-// The bytes of the content file; none, with the problems told, if there are any.
-std::optional<std::string> Set(const fs::path& path, const std::string& text, Problems& problems) {
-  const Manuscript manuscript = ReadManuscript(text);
+// The bytes of the content file; none, with the diagnostics told, if there are any.
+std::optional<std::string> Typeset(const fs::path& path, const std::string& text,
+                                   authoring::Diagnostics& diagnostics) {
+  const authoring::Manuscript manuscript = authoring::ReadManuscript(text);
   const std::string stem = path.stem().string();
-  problems = manuscript.problems;
-  if (problems.empty() && stem.ends_with(kGlossaryEnd)) problems = FindGlossaryProblems(manuscript);
-  if (!problems.empty()) return std::nullopt;
+  diagnostics = manuscript.diagnostics;
+  if (diagnostics.empty() && stem.ends_with(kGlossaryEnd))
+    diagnostics = authoring::DiagnoseGlossary(manuscript);
+  if (!diagnostics.empty()) return std::nullopt;
   const auto glossary = ReadNeighbour(path, stem + std::string(kGlossaryEnd));
   const auto lives = ReadNeighbour(path, "bio");
-  return Press(manuscript, {glossary ? &*glossary : nullptr, lives ? &*lives : nullptr}, problems);
+  return authoring::Press(manuscript, {glossary ? &*glossary : nullptr, lives ? &*lives : nullptr},
+                          diagnostics);
 }
 
 bool IsSameFile(const fs::path& a, const fs::path& b) {
@@ -57,24 +61,42 @@ bool WriteFile(const fs::path& path, const std::string& bytes) {
 
 }  // namespace
 
-int Build(const fs::path& manuscript, const fs::path& output, std::ostream& errors) {
+ExitStatus Build(const fs::path& manuscript, const fs::path& output, std::ostream& errors) {
   const auto text = host::ReadWhole(*host::DiskItem(manuscript));
   if (!text) {
     errors << manuscript.string() << ": can't be read\n";
-    return kFailed;
+    return kCannotRun;
   }
   if (IsSameFile(manuscript, output)) {
     errors << output.string() << ": this is the manuscript itself; nothing was written\n";
-    return kFailed;
+    return kCannotRun;
   }
-  Problems problems;
-  const auto bytes = Set(manuscript, *text, problems);
-  for (const Problem& problem : ByLine(problems))
-    errors << manuscript.string() << ":" << problem.line << ": " << problem.sentence << "\n";
-  if (!bytes) return kWrong;
-  if (WriteFile(output, *bytes)) return kWritten;
+  authoring::Diagnostics diagnostics;
+  const auto bytes = Typeset(manuscript, *text, diagnostics);
+  for (const authoring::Diagnostic& diagnostic : ByLine(diagnostics))
+    errors << manuscript.string() << ":" << diagnostic.line << ": " << diagnostic.sentence << "\n";
+  if (!bytes) return kRefused;
+  if (WriteFile(output, *bytes)) return kDone;
   errors << output.string() << ": can't be written\n";
-  return kFailed;
+  return kCannotRun;
+}
+
+void AddBuildCommand(CLI::App& app, Action& action) {
+  struct Arguments {
+    std::string manuscript;
+    std::string output;
+  };
+  auto* const command = app.add_subcommand("build", "Typesets a manuscript into a content file");
+  const auto arguments = std::make_shared<Arguments>();
+  command->add_option("MANUSCRIPT", arguments->manuscript, "the manuscript, in CommonMark and UTF-8")
+      ->required();
+  command->add_option("-o,--output", arguments->output, "the content file to write")
+      ->required()
+      ->type_name("FILE.xml");
+  command->footer("Example: quillpress build data/manuscripts/screen.md -o ScreenQMR.xml");
+  command->callback([arguments, &action] {
+    action = [arguments] { return Build(arguments->manuscript, arguments->output, std::cerr); };
+  });
 }
 
 }  // namespace quill::quillpress

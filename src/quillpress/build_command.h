@@ -1,5 +1,5 @@
 // `quillpress build`: a manuscript in, a content file out. It knows which files
-// lie beside a manuscript and how problems are told; what they mean is the
+// lie beside a manuscript and how diagnostics are told; what they mean is the
 // press's matter.
 //
 // Beside NAME.md lie NAME_glossary.md, whose pages `glossary:` links lead to, and
@@ -11,11 +11,14 @@
 #include <filesystem>
 #include <ostream>
 
+#include "quillpress/commands.h"
+
 namespace quill::quillpress {
 
-// 0: `output` is written. 1: the manuscript has errors, a line each in `errors`
-// ("file:line: sentence"). 2: a file can't be read or written. Unless it gives 0,
-// what was at `output` before is there still.
-int Build(const std::filesystem::path& manuscript, const std::filesystem::path& output, std::ostream& errors);
+// `kDone`: `output` is written. `kRefused`: the manuscript has errors, a line each
+// in `errors` ("file:line: sentence"). `kCannotRun`: a file can't be read or
+// written. Unless it is done, what was at `output` before is there still.
+ExitStatus Build(const std::filesystem::path& manuscript, const std::filesystem::path& output,
+                 std::ostream& errors);
 
 }  // namespace quill::quillpress

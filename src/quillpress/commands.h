@@ -10,15 +10,18 @@ class App;
 
 namespace quill::quillpress {
 
-// What the chosen command does; gives the exit status of the process. Throws
-// `Complaint`.
-using Action = std::function<int()>;
+// The exit statuses of the process, for all commands.
+enum ExitStatus : int {
+  kDone = 0,
+  kRefused = 1,    // something was found, or what was given is refused
+  kCannotRun = 2,  // bad arguments; a file isn't there, or can't be read or written
+};
+inline constexpr const char* kStatuses =
+    "Exit status: 0 done, 1 something found or refused, 2 could not run.";
 
-// Exit statuses. Bad arguments are the third kind, and so is a check that couldn't
-// look at everything.
-inline constexpr int kDone = 0;
-inline constexpr int kFailed = 1;
-inline constexpr int kNotRun = 2;
+// What the chosen command does; returns the exit status. Throws
+// `authoring::Complaint`.
+using Action = std::function<ExitStatus()>;
 
 // Both arguments must outlive the parsing of the command line, which sets `action`.
 void AddBuildCommand(CLI::App& app, Action& action);

@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "authoring/complaint.h"
+#include "content/bundle.h"
 #include "host/qt/qt_files.h"
 
 namespace quill::quillpress {
@@ -53,17 +55,23 @@ fs::path Plain(const fs::path& path) {
 
 bool IsInBundle(const fs::path& data) {
   const fs::path contents = Plain(data).parent_path();
-  return Plain(data).filename() == "Data" && contents.filename() == "Contents" &&
-         contents.parent_path().filename() == "Quillmere.app";
+  return Plain(data).filename() == content::kDataFolder && contents.filename() == content::kContentsFolder &&
+         contents.parent_path().filename() == content::kBundleFolder;
+}
+
+void RequireFolder(const fs::path& path) {
+  std::error_code error;
+  if (!fs::is_directory(path, error)) throw authoring::FileComplaint(path.string() + " is no folder.");
 }
 
 Item BundleView(const fs::path& data, const fs::path& documents) {
   const fs::path contents = Plain(data).parent_path();
   const fs::path bundle = contents.parent_path();
   const fs::path folder = bundle.parent_path();
-  const Item inner = View(contents, {{"Data", host::DiskItem(Plain(data))}});
-  return View(folder, {{"Quillmere.app", View(bundle, {{"Contents", inner}})},
-                       {"Data", host::DiskItem(documents.empty() ? folder / "Data" : documents)}});
+  const Item inner = View(contents, {{content::kDataFolder, host::DiskItem(Plain(data))}});
+  return View(folder, {{content::kBundleFolder, View(bundle, {{content::kContentsFolder, inner}})},
+                       {content::kDataFolder,
+                        host::DiskItem(documents.empty() ? folder / content::kDataFolder : documents)}});
 }
 
 }  // namespace quill::quillpress

@@ -15,6 +15,9 @@ namespace quill::quillpress {
 // documents beside the bundle is known.
 bool IsInBundle(const std::filesystem::path& data);
 
+// Throws `authoring::FileComplaint` unless `path` is a folder.
+void RequireFolder(const std::filesystem::path& path);
+
 // The folder that seems to hold the bundle. Inside it "Quillmere.app", "Contents"
 // and "Data" lead to `data`, and "Data" beside the bundle to `documents`; an empty
 // `documents` stands for the place it would have beside the real bundle. Both

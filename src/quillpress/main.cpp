@@ -4,21 +4,25 @@
 #include <exception>
 #include <iostream>
 
+#include "authoring/complaint.h"
 #include "quillpress/commands.h"
-#include "quillpress/complaint.h"
 
 namespace {
+
+using namespace quill::quillpress;
 
 constexpr const char* kAbout =
     "Builds, checks, shows and changes the content files of Quillmere.\n"
     "\"quillpress COMMAND --help\" tells all about a command.";
-constexpr const char* kStatuses =
-    "Exit status: 0 done, 1 failed (check: something was found), 2 could not run.";
+
+int Tell(const std::exception& error, const char* before, ExitStatus status) {
+  std::cerr << "quillpress: " << before << error.what() << "\n";
+  return status;
+}
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  using namespace quill::quillpress;
   CLI::App app(kAbout, "quillpress");
   app.footer(kStatuses);
   app.require_subcommand(1);
@@ -33,11 +37,12 @@ int main(int argc, char** argv) {
     app.parse(argc, argv);
     return action();
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? kDone : kNotRun;
-  } catch (const Complaint& complaint) {
-    std::cerr << "quillpress: " << complaint.what() << "\n";
+    return app.exit(error) == 0 ? kDone : kCannotRun;
+  } catch (const quill::authoring::FileComplaint& complaint) {
+    return Tell(complaint, "", kCannotRun);
+  } catch (const quill::authoring::Complaint& complaint) {
+    return Tell(complaint, "", kRefused);
   } catch (const std::exception& error) {
-    std::cerr << "quillpress: it has to stop: " << error.what() << "\n";
+    return Tell(error, "it has to stop: ", kCannotRun);
   }
-  return kFailed;
 }

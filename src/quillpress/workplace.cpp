@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "app/product.h"
+
 namespace quill::quillpress {
 namespace {
 
@@ -20,6 +22,6 @@ host::QtDesktop::Options OptionsFor(std::shared_ptr<host::FolderItem> applicatio
 }  // namespace
 
 Workplace::Workplace(std::shared_ptr<host::FolderItem> application)
-    : desktop_(argc_, argv_.data(), OptionsFor(std::move(application))) {}
+    : desktop_(argc_, argv_.data(), app::Quillmere(), OptionsFor(std::move(application))) {}
 
 }  // namespace quill::quillpress

@@ -1,11 +1,14 @@
 #include "render/link_style.h"
 
+#include "content/link_types.h"
+
 namespace quill::render {
 
 void SetLinkStyle(std::int32_t link_type, host::TextFace& face) {
-  face.Italic = link_type == 3 || link_type == 5 || link_type == 7;
-  face.Bold = link_type == 4 || link_type == 5 || link_type == 8;
-  face.Underline = link_type == 6 || link_type == 7 || link_type == 8;
+  const content::LinkType* const row = content::FindLinkType(link_type);
+  face.Italic = row != nullptr && row->italic;
+  face.Bold = row != nullptr && row->bold;
+  face.Underline = row != nullptr && row->underline;
 }
 
 }  // namespace quill::render

@@ -8,7 +8,7 @@ void DrawBackground(app::App& app, host::Graphics& graphics) {
 }
 
 void SetPageInk(const app::App& app, const std::string& font, host::Graphics& graphics) {
-  graphics.ForeColor = host::kWhite;
+  graphics.ForeColor = base::kWhite;
   graphics.TextFont = font;
   graphics.TextSize = app.fontsize;
 }

@@ -7,8 +7,9 @@
 #include <unordered_map>
 #include <utility>
 
-#include "host/numbers.h"
-#include "host/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "content/link_types.h"
 #include "render/link_style.h"
 
 namespace quill::render {
@@ -28,8 +29,8 @@ class LinkIndex {
  public:
   explicit LinkIndex(const std::vector<std::shared_ptr<content::Link>>& links) {
     for (std::size_t i = 0; i < links.size(); ++i) {
-      const double offset = host::Val(links[i]->GetOffset());
-      const std::int32_t whole = host::ToInt32(offset);
+      const double offset = base::Val(links[i]->GetOffset());
+      const std::int32_t whole = base::ToInt32(offset);
       const std::int32_t column = links[i]->GetColumn();
       if (column < 1 || column > 3 || static_cast<double>(whole) != offset) continue;
       starts_[static_cast<std::size_t>(column)].try_emplace(whole, i);
@@ -73,17 +74,17 @@ class Flow {
     TextOffset = 0;
     ActiveLink = -1;
     const std::string text = page_.GetText(column);
-    for (const std::string_view paragraph : host::Fields(text, '\n')) Paragraph(paragraph);
+    for (const std::string_view paragraph : base::Fields(text, '\n')) Paragraph(paragraph);
   }
 
   void Paragraph(std::string_view paragraph) {
-    fields_ = host::Fields(paragraph, ' ');
+    fields_ = base::Fields(paragraph, ' ');
     const std::int32_t SavedLeft = LeftMargin();
     PenX = SavedLeft;
     StepDown(1.0);
     for (std::size_t field = 0; field < fields_.size(); ++field) Word(field);
     LeftMargin() = SavedLeft;
-    TextOffset = host::AddSaturating(TextOffset, 1);
+    TextOffset = base::AddSaturating(TextOffset, 1);
     StepDown(settings_.paragraph_step);
   }
 
@@ -98,7 +99,7 @@ class Flow {
     StartLink(word, field);
     if (ActiveLink < 0) {
       PlainWord(word);
-    } else if (IsStyledRun(LinkList[Active()]->GetType())) {
+    } else if (content::IsStyledRun(LinkList[Active()]->GetType())) {
       StyledWord(word);
     } else {
       ButtonWord();
@@ -109,16 +110,16 @@ class Flow {
   // A tab moves the margin for every later line of the paragraph, and the pen
   // to it, even from the middle of a line.
   void Indent() {
-    LeftMargin() = host::AddSaturating(LeftMargin(), kTabIndent);
+    LeftMargin() = base::AddSaturating(LeftMargin(), kTabIndent);
     PenX = LeftMargin();
-    TextOffset = host::AddSaturating(TextOffset, 1);
+    TextOffset = base::AddSaturating(TextOffset, 1);
   }
 
   // A word fits if it ends at the margin, its blank included. One too wide for
   // the column moves to a new line all the same, and runs past the margin.
   void BreakLineFor(std::string_view word) {
     const std::int32_t right = geometry_.RightMargin[static_cast<std::size_t>(column_)];
-    if (right >= host::AddSaturating(PenX, WordWidth(word))) return;
+    if (right >= base::AddSaturating(PenX, WordWidth(word))) return;
     PenX = LeftMargin();
     StepDown(kLineStep);
   }
@@ -135,9 +136,9 @@ class Flow {
     link.index = Active();
     link.column = column_;
     link.offset = TextOffset;
-    link.left = host::AddSaturating(PenX, settings_.canvas_left);
-    link.top = host::AddSaturating(PenY, settings_.canvas_top - settings_.button_rise);
-    link.text = TakeRun(word, field, host::Val(LinkList[Active()]->GetLength()));
+    link.left = base::AddSaturating(PenX, settings_.canvas_left);
+    link.top = base::AddSaturating(PenY, settings_.canvas_top - settings_.button_rise);
+    link.text = TakeRun(word, field, base::Val(LinkList[Active()]->GetLength()));
     layout_.links.push_back(std::move(link));
   }
 
@@ -155,7 +156,7 @@ class Flow {
     const double missing = std::ceil(length - static_cast<double>(RunText.size()));
     if (missing > 0) {
       RunText.append(static_cast<std::size_t>(std::min(missing, kMostPadding)), ' ');
-      RunFields = host::AddSaturating(RunFields, host::ToInt32(missing));
+      RunFields = base::AddSaturating(RunFields, base::ToInt32(missing));
     }
     return RunText;
   }
@@ -185,15 +186,15 @@ class Flow {
   }
 
   void Advance(std::string_view word) {
-    PenX = host::AddSaturating(PenX, WordWidth(word));
-    TextOffset = host::AddSaturating(TextOffset, host::ToInt32(static_cast<double>(word.size()) + 1));
+    PenX = base::AddSaturating(PenX, WordWidth(word));
+    TextOffset = base::AddSaturating(TextOffset, base::ToInt32(static_cast<double>(word.size()) + 1));
     const char last = word.empty() ? ' ' : word.back();
     if (last == '.' || last == '?' || last == '!')
-      PenX = host::ToInt32(PenX + metrics_.StringWidth(face_, " "));
+      PenX = base::ToInt32(PenX + metrics_.StringWidth(face_, " "));
   }
 
   void PlaceLabel() {
-    if (settings_.show_offsets) Place(host::Str(TextOffset), Below(kLabelStep));
+    if (settings_.show_offsets) Place(base::Str(TextOffset), Below(kLabelStep));
   }
 
   void Place(std::string text, std::int32_t y) {
@@ -204,10 +205,10 @@ class Flow {
   // Width of `word` with a trailing blank, in the style the word before left.
   std::int32_t WordWidth(std::string_view word) {
     measured_.assign(word).push_back(' ');
-    return host::ToInt32(metrics_.StringWidth(face_, measured_));
+    return base::ToInt32(metrics_.StringWidth(face_, measured_));
   }
 
-  std::int32_t Below(double line_heights) const { return host::ToInt32(PenY + line_heights * line_height_); }
+  std::int32_t Below(double line_heights) const { return base::ToInt32(PenY + line_heights * line_height_); }
   void StepDown(double line_heights) { PenY = Below(line_heights); }
   std::int32_t& LeftMargin() { return geometry_.LeftMargin[static_cast<std::size_t>(column_)]; }
   std::size_t Active() const { return static_cast<std::size_t>(ActiveLink); }
@@ -247,11 +248,11 @@ std::string Flags(const PlacedWord& word) {
 std::string PageLayout::Dump() const {
   std::string dump;
   for (const PlacedWord& word : words) {
-    dump += word.text + " " + host::Str(word.x) + "," + host::Str(word.y) + Flags(word) + "\n";
+    dump += word.text + " " + base::Str(word.x) + "," + base::Str(word.y) + Flags(word) + "\n";
   }
   for (const PlacedLink& link : links) {
     dump += (link.shown ? "button " : "run ") + std::to_string(link.index) + " \"" + link.text + "\" " +
-            host::Str(link.left) + "," + host::Str(link.top) + "\n";
+            base::Str(link.left) + "," + base::Str(link.top) + "\n";
   }
   return dump;
 }

@@ -1,21 +1,24 @@
 #include "render/page_settings.h"
 
+#include "app/app.h"
+#include "render/page_furniture.h"
+
 namespace quill::render {
 namespace {
 
 constexpr std::int32_t kTextTop = 60;
-constexpr std::string_view kIndexPage = "191";
-constexpr double kIndexStep = 0.35;
+constexpr double kCloseStep = 0.35;
 
 }  // namespace
 
-LayoutSettings PageSettings(const app::App& app, std::int32_t columns, std::string_view page_number) {
+LayoutSettings PageSettings(const app::Mode& mode, std::int32_t columns, std::string_view page_number) {
   LayoutSettings settings;
   settings.geometry.TopMargin = kTextTop;
-  settings.geometry.SetMargins(columns, kPageWidth);
-  settings.face.TextSize = app.fontsize;
-  settings.button_rise = app.fontheightoffset;
-  if (app.mode == app::kScreenMode && page_number == kIndexPage) settings.paragraph_step = kIndexStep;
+  settings.geometry.SetMargins(columns, kPageCanvas.width);
+  settings.face.TextSize = app::App::kFontSize;
+  settings.button_rise = app::App::kFontHeightOffset;
+  if (!mode.close_set_page.empty() && page_number == mode.close_set_page)
+    settings.paragraph_step = kCloseStep;
   return settings;
 }
 

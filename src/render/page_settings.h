@@ -5,18 +5,13 @@
 #include <cstdint>
 #include <string_view>
 
-#include "app/app.h"
+#include "app/mode_table.h"
 #include "render/page_layout.h"
 
 namespace quill::render {
 
-// The page's canvas, which fills the window.
-inline constexpr std::int32_t kPageWidth = 640;
-inline constexpr std::int32_t kPageHeight = 480;
-
-// How a page of that many columns is laid out in the application's mode.
-// `page_number` is the text by which it was asked for: one page of the Screen
-// area, its index of short lines, is known by it and set closer.
-LayoutSettings PageSettings(const app::App& app, std::int32_t columns, std::string_view page_number);
+// How a page of that many columns is laid out in a mode. `page_number` is the
+// text by which it was asked for: a mode's close-set page is known by it.
+LayoutSettings PageSettings(const app::Mode& mode, std::int32_t columns, std::string_view page_number);
 
 }  // namespace quill::render

@@ -23,8 +23,8 @@ host::WindowStyle NotesStyle() {
 
 FreeAssociation::FreeAssociation()
     : Window(NotesStyle()),
-      EditField1(AddControl<host::EditField>(nullptr, host::Rect{4, 4, 624, 341},
-                                             host::SystemText(10, host::kBlack), host::kWhite)) {}
+      EditField1(AddControl<host::EditField>(nullptr, base::Rect{4, 4, 624, 341},
+                                             host::SystemText(10, base::kBlack), base::kWhite)) {}
 
 // Each line comes with its line end, so that the lines stay lines.
 void FreeAssociation::OpenFile() {

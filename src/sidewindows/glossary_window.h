@@ -17,9 +17,8 @@ namespace quill::sidewindows {
 
 class GlossaryWindow final : public host::Window {
  public:
-  // `viewer` is the window that this one stands over, `fonts` its text face;
-  // both must outlive it, and `app` too.
-  GlossaryWindow(app::App& app, const host::Window& viewer, const nav::FontSource& fonts);
+  // `viewer` is the window that this one stands over. Both must outlive it.
+  GlossaryWindow(app::App& app, const host::Window& viewer);
 
   // Shows the entry with that number, decimal text. An entry that the glossary
   // doesn't hold leaves the ground bare and the title as it was.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "app/file_types.h"
+#include "app/product.h"
 #include "host/memory/memory_desktop.h"
 
 namespace quill::app {
@@ -36,7 +37,7 @@ TEST(AppTest, FillsTheTablesAndSaysNothing) {
 }
 
 TEST(PicturesTest, AreReadOnceAndKept) {
-  host::MemoryDesktop desktop;
+  host::MemoryDesktop desktop(Quillmere());
   Pictures pictures;
   const auto board = pictures.board();
   EXPECT_EQ(pictures.board(), board);

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/exceptions.h"
+#include "base/exceptions.h"
 #include "host/memory/memory_desktop.h"
 #include "support/texts.h"
 
@@ -69,7 +69,7 @@ TEST_F(XmlFileTest, EndsTheProgramWithoutTheFileButNotWithoutTheBundle) {
 TEST_F(XmlFileTest, AFileThatCantBeOpenedFailsInSilence) {
   desktop_.files.Lock(kPath);
   EXPECT_EQ(Complaint("<Root><AppInfo/></Root>"), "");
-  EXPECT_THROW(file_.GetDocument(std::make_shared<Document>()), host::NilObjectException);
+  EXPECT_THROW(file_.GetDocument(std::make_shared<Document>()), base::NilObjectException);
   desktop_.no_application_folder = true;
   EXPECT_EQ(Complaint(""), "");
 }

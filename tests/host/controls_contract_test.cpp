@@ -10,7 +10,7 @@ namespace {
 
 // A canvas that writes down what happens to it.
 struct Probe final : Canvas {
-  Probe(Window& window, Canvas* parent, const Rect& frame, std::string called, std::string& log_to)
+  Probe(Window& window, Canvas* parent, const base::Rect& frame, std::string called, std::string& log_to)
       : Canvas(window, parent, frame), name(std::move(called)), log(log_to) {}
 
   bool Event_MouseDown(std::int32_t x, std::int32_t y) override {
@@ -38,18 +38,18 @@ struct Probe final : Canvas {
 //                 [ in b ]                  20 .. 30
 struct ProbeWindow final : Window {
   explicit ProbeWindow(std::string& log_to) : Window({"probes", 200, 100}), log(log_to) {
-    AddControl<Probe>(&ground, Rect{110, 10, 40, 20}, "under", log);
-    AddControl<StaticText>(&ground, Rect{110, 10, 40, 20}, TextStyle(), "caption");
+    AddControl<Probe>(&ground, base::Rect{110, 10, 40, 20}, "under", log);
+    AddControl<StaticText>(&ground, base::Rect{110, 10, 40, 20}, TextStyle(), "caption");
     inside_b.SetVisible(false);
   }
   void Event_Close() override { log += "close\n"; }
 
   std::string& log;
-  Canvas& ground = AddControl<Canvas>(nullptr, Rect{0, 0, 200, 100});
-  Probe& a = AddControl<Probe>(&ground, Rect{10, 10, 40, 20}, "a", log);
-  Probe& b = AddControl<Probe>(&ground, Rect{60, 10, 40, 20}, "b", log);
-  Probe& inside_b = AddControl<Probe>(&b, Rect{10, 10, 20, 10}, "in b", log);
-  CheckBox& box = AddControl<CheckBox>(&ground, Rect{10, 50, 60, 20}, "box", TextFace());
+  Canvas& ground = AddControl<Canvas>(nullptr, base::Rect{0, 0, 200, 100});
+  Probe& a = AddControl<Probe>(&ground, base::Rect{10, 10, 40, 20}, "a", log);
+  Probe& b = AddControl<Probe>(&ground, base::Rect{60, 10, 40, 20}, "b", log);
+  Probe& inside_b = AddControl<Probe>(&b, base::Rect{10, 10, 20, 10}, "in b", log);
+  CheckBox& box = AddControl<CheckBox>(&ground, base::Rect{10, 50, 60, 20}, "box", TextFace());
 };
 
 class ControlContract : public OnBothDesktops {
@@ -156,8 +156,8 @@ TEST_P(ControlContract, AWindowIsOpenFromOpenToClose) {
   EXPECT_TRUE(window_->IsOpen() && under_test_->ShowsWindow());
   window_->MoveTo(70, 90);
   under_test_->Settle();
-  const Rect frame = {window_->Left(), window_->Top(), window_->Width(), window_->Height()};
-  EXPECT_EQ(frame, (Rect{70, 90, 200, 100}));
+  const base::Rect frame = {window_->Left(), window_->Top(), window_->Width(), window_->Height()};
+  EXPECT_EQ(frame, (base::Rect{70, 90, 200, 100}));
   window_->Close();
   window_->Close();
   EXPECT_FALSE(window_->IsOpen() || under_test_->ShowsWindow());

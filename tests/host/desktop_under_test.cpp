@@ -28,7 +28,7 @@ class MemoryUnderTest final : public DesktopUnderTest {
  private:
   MemoryScreen& Screen() { return *desktop_.screens.back(); }
 
-  MemoryDesktop desktop_;
+  MemoryDesktop desktop_{TestProduct()};
   MemoryFiles& files_ = desktop_.files;
 };
 
@@ -72,6 +72,8 @@ bool QtUnderTest::ShowsWindow() { return ShownWindow() != nullptr; }
 std::string DesktopName(const testing::TestParamInfo<Which>& which) {
   return which.param == Which::kMemory ? "Memory" : "Qt";
 }
+
+Product TestProduct() { return {"Tester", {{"COMP", "companion"}}, {{7, "stage"}, {9, "qmr"}}}; }
 
 std::unique_ptr<DesktopUnderTest> MakeDesktop(Which which) {
   if (which == Which::kMemory) return std::make_unique<MemoryUnderTest>();

@@ -13,6 +13,7 @@
 #include <string>
 
 #include "host/desktop.h"
+#include "host/product.h"
 #include "host/qt/qt_desktop.h"
 
 namespace quill::host {
@@ -38,6 +39,9 @@ class DesktopUnderTest {
   virtual bool ShowsWindow() = 0;
 };
 
+// What both desktops are told of the program. The pictures are the real ones.
+Product TestProduct();
+
 enum class Which { kMemory, kQt };
 
 std::unique_ptr<DesktopUnderTest> MakeDesktop(Which which);
@@ -47,7 +51,7 @@ std::unique_ptr<DesktopUnderTest> MakeDesktop(Which which);
 class QtUnderTest final : public DesktopUnderTest {
  public:
   QtUnderTest()
-      : desktop_(argument_count_, arguments_,
+      : desktop_(argument_count_, arguments_, TestProduct(),
                  {.application_folder = Folder(),
                   .application = nullptr,
                   .messages = QtDesktop::Messages::kStandardError,

@@ -10,19 +10,19 @@
 #include <csignal>
 #include <set>
 
+#include "base/exceptions.h"
 #include "host/application.h"
 #include "host/controls.h"
 #include "host/desktop_under_test.h"
-#include "host/exceptions.h"
 
 namespace quill::host {
 namespace {
 
-constexpr Color kRed = RGB(255, 0, 0);
-constexpr Color kGreen = RGB(0, 255, 0);
-constexpr Color kGray = RGB(95, 95, 95);
+constexpr base::Color kRed = base::RGB(255, 0, 0);
+constexpr base::Color kGreen = base::RGB(0, 255, 0);
+constexpr base::Color kGray = base::RGB(95, 95, 95);
 
-void Fill(Graphics& pen, Color color, const Rect& area) {
+void Fill(Graphics& pen, base::Color color, const base::Rect& area) {
   pen.ForeColor = color;
   pen.FillRect(area);
 }
@@ -30,7 +30,7 @@ void Fill(Graphics& pen, Color color, const Rect& area) {
 struct Painting final : Canvas {
   using Canvas::Canvas;
   void Event_Paint() override {
-    if (fails) throw OutOfBoundsException();
+    if (fails) throw base::OutOfBoundsException();
   }
   bool Event_MouseDown(std::int32_t x, std::int32_t y) override { return pressed = x > 0 && y > 0; }
 
@@ -44,8 +44,8 @@ struct PaintedWindow final : Window {
   explicit PaintedWindow(WindowStyle::Frame frame = kPlain, bool close_button = false)
       : Window({"painted", 100, 50, frame, kGray, close_button}) {}
 
-  Painting& canvas = AddControl<Painting>(nullptr, Rect{0, 0, 80, 50});
-  Painting& child = AddControl<Painting>(&canvas, Rect{40, 0, 20, 50});
+  Painting& canvas = AddControl<Painting>(nullptr, base::Rect{0, 0, 80, 50});
+  Painting& child = AddControl<Painting>(&canvas, base::Rect{40, 0, 20, 50});
 };
 
 QImage Saved(QtUnderTest& under_test, Window& window) {
@@ -80,7 +80,7 @@ TEST_F(QtDesktopTest, LayersLieInOrder) {
   Fill(*GraphicsOf(backdrop), kRed, {0, 0, 80, 25});
   EXPECT_EQ(Colors({{0, 24}, {79, 24}, {80, 24}}), "#ff0000#ff0000#5f5f5f") << "drawn into later";
   Fill(canvas_.GetGraphics(), kGreen, {0, 0, 60, 10});
-  Fill(child_.GetGraphics(), kWhite, {-1, -1, 11, 51});
+  Fill(child_.GetGraphics(), base::kWhite, {-1, -1, 11, 51});
   EXPECT_EQ(Colors({{40, 5}, {49, 5}, {50, 5}, {39, 15}}), "#ffffff#ffffff#00ff00#ff0000");
   child_.SetWidth(19);
   EXPECT_EQ(Colors({{40, 5}}), "#00ff00") << "a change of size drops the drawing";
@@ -90,7 +90,7 @@ TEST_F(QtDesktopTest, TextStandsOnItsBaseLineAsWideAsMeasured) {
   const auto picture = NewPicture(80, 50, 16);
   canvas_.SetBackdrop(picture);
   const auto pen = GraphicsOf(picture);
-  pen->ForeColor = kWhite;
+  pen->ForeColor = base::kWhite;
   pen->DrawString("HHH\tH", 10, 30);
   const QImage image = Saved(under_test_, window_);
   QRect ink;
@@ -127,12 +127,6 @@ TEST(QtDensity, MetricsDoNotDependOnIt) {
   EXPECT_EQ(widths.size(), 1u);
 }
 
-TEST_F(QtDesktopTest, TheVersionIsTheTextInTheBundle) {
-  EXPECT_EQ(Application().LongVersion(), "");
-  under_test_.AddFile("Quillmere.app/Contents/Version", " 1.2 beta\r\n");
-  EXPECT_EQ(Application().LongVersion(), "1.2 beta");
-}
-
 constexpr int kRunsOn = 7;
 
 // The status with which the program ends; `kRunsOn` if it doesn't in that time.
@@ -154,7 +148,7 @@ TEST_F(QtDesktopTest, AnExceptionOutOfAnEventEndsTheProgram) {
   window_.Open();
   testing::internal::CaptureStderr();
   EXPECT_EQ(StatusOf(under_test_, 5000), 1);
-  EXPECT_EQ(testing::internal::GetCapturedStderr(), "Quillmere has to stop: out of bounds\n");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "Tester has to stop: out of bounds\n");
 }
 
 TEST(QtEnd, WhatTheUserMayClose) {

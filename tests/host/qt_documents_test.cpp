@@ -39,9 +39,9 @@ TEST_F(QtDocuments, GoToTheProgramThatIsThereForThem) {
     const char *installed, *target, *document, *started;
   };
   for (const Step& step : {Step{"xdg-open", "MACS", "plain.pdf", "xdg-open"},
-                           Step{"xdg-open", "QLD7", " two  blanks ", "xdg-open"},
-                           Step{"qld7", "QLD7", "-o it's \"$(x)\" `y`; *", "qld7"},
-                           Step{"qld7", "MACS", "caf\xC3\xA9 %20", "xdg-open"}}) {
+                           Step{"xdg-open", "COMP", " two  blanks ", "xdg-open"},
+                           Step{"companion", "COMP", "-o it's \"$(x)\" `y`; *", "companion"},
+                           Step{"companion", "MACS", "caf\xC3\xA9 %20", "xdg-open"}}) {
     Install(step.installed);
     under_test_.AddFile(step.document, "");
     const auto item = folder_->Child(step.document);

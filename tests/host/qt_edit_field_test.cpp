@@ -12,8 +12,11 @@ namespace {
 class QtEditField : public testing::Test {
  protected:
   struct EditWindow final : Window {
-    EditWindow() : Window({"edit", 300, 200, WindowStyle::Frame::kDocument, kWhite, false, true}) { Open(); }
-    EditField& field = AddControl<EditField>(nullptr, Rect{10, 20, 200, 100}, TextStyle(), kWhite);
+    EditWindow() : Window({"edit", 300, 200, WindowStyle::Frame::kDocument, base::kWhite, false, true}) {
+      Open();
+    }
+    EditField& field =
+        AddControl<EditField>(nullptr, base::Rect{10, 20, 200, 100}, TextStyle(), base::kWhite);
   };
 
   QtUnderTest under_test_;

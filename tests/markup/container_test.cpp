@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "host/exceptions.h"
+#include "base/exceptions.h"
 #include "host/memory/memory_desktop.h"
 #include "markup/exceptions.h"
 #include "support/texts.h"
@@ -43,8 +43,8 @@ TEST_F(ContainerTest, ReadsFiles) {
 
   desktop_.messages.clear();
   desktop_.files.Lock("page.htm");
-  EXPECT_THROW(zkXMLContainer(desktop_.files.Item("page.htm")), host::NilObjectException);
-  EXPECT_THROW(zkXMLContainer(std::shared_ptr<host::FolderItem>()), host::NilObjectException);
+  EXPECT_THROW(zkXMLContainer(desktop_.files.Item("page.htm")), base::NilObjectException);
+  EXPECT_THROW(zkXMLContainer(std::shared_ptr<host::FolderItem>()), base::NilObjectException);
   EXPECT_TRUE(desktop_.messages.empty());
 }
 
@@ -96,8 +96,8 @@ TEST_F(ContainerTest, KeepsToItsFirstChunksSetting) {
 TEST_F(ContainerTest, ChunksNestNoDeeperThanWholes) {
   zkXMLContainer container;
   container.ParseIncrementally(tests::Repeated("<a>", kMaxOpenElements) + "xx");
-  EXPECT_THROW(container.ParseIncrementally("<a>xx"), host::StackOverflowException);
-  EXPECT_THROW(container.ParseIncrementally("xx"), host::StackOverflowException);
+  EXPECT_THROW(container.ParseIncrementally("<a>xx"), base::StackOverflowException);
+  EXPECT_THROW(container.ParseIncrementally("xx"), base::StackOverflowException);
   EXPECT_FALSE(container.IsConsistent());
 }
 

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "host/exceptions.h"
+#include "base/exceptions.h"
 #include "markup/container.h"
 #include "support/texts.h"
 
@@ -75,11 +75,11 @@ TEST(Element, ChangesItsLists) {
 
   EXPECT_EQ(element.GetContent(0), nullptr);
   for (const std::int32_t outside : {-1, 3}) {
-    EXPECT_THROW(element.GetContent(outside), host::OutOfBoundsException);
-    EXPECT_THROW(element.RemoveContent(outside), host::OutOfBoundsException);
-    EXPECT_THROW(element.InsertObject(Child("y"), outside + 1), host::OutOfBoundsException);
+    EXPECT_THROW(element.GetContent(outside), base::OutOfBoundsException);
+    EXPECT_THROW(element.RemoveContent(outside), base::OutOfBoundsException);
+    EXPECT_THROW(element.InsertObject(Child("y"), outside + 1), base::OutOfBoundsException);
   }
-  EXPECT_THROW(CastToXMLElement(std::make_shared<zkXMLComment>("c")), host::IllegalCastException);
+  EXPECT_THROW(CastToXMLElement(std::make_shared<zkXMLComment>("c")), base::IllegalCastException);
 }
 
 TEST(Element, DeepTreesAreReleasedButWhatIsHeldStays) {

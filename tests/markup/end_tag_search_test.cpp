@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/text.h"
+#include "base/text.h"
 #include "support/texts.h"
 
 namespace quill::markup {
@@ -20,7 +20,7 @@ TEST(EndTagSearch, AgreesWithPlainSearches) {
       name = tests::RandomText(random, pieces, random() % 4);
       const std::size_t from = random() % 20;
       search.Require(name, from);
-      expected = expected && host::InStr(from + 1, text, "</" + name) > 0;
+      expected = expected && base::InStr(from + 1, text, "</" + name) > 0;
     }
     ASSERT_EQ(search.AllFollow(text), expected) << text << ", first name " << names[0];
   }

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "host/numbers.h"
-#include "host/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
 #include "support/texts.h"
 
 namespace quill::markup {
@@ -23,8 +23,8 @@ std::string ReplacedNaively(std::string text) {
     if (found == std::string::npos) return text;
     const std::size_t semicolon = text.find(';', found + 2);
     if (semicolon == std::string::npos) return text;
-    const std::int32_t number = host::IntVal(text.substr(found + 2, semicolon - found - 2));
-    if (number > 0) text = host::Replace(text, "&#" + host::Str(number) + ";", host::Chr(number));
+    const std::int32_t number = base::IntVal(text.substr(found + 2, semicolon - found - 2));
+    if (number > 0) text = base::Replace(text, "&#" + base::Str(number) + ";", base::Chr(number));
     start = found + 1;
   }
 }

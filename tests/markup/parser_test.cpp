@@ -76,8 +76,8 @@ TEST_F(ParserTest, RelaxedLetsElementsGiveWay) {
 TEST_F(ParserTest, NestsAsDeepAsItSays) {
   const std::string deepest = Repeated("<a>", kMaxOpenElements) + Repeated("</a>", kMaxOpenElements);
   EXPECT_EQ(zkXMLContainer(deepest).ContentCount(), 1);
-  EXPECT_THROW(zkXMLContainer("<a>" + deepest + "</a>"), host::StackOverflowException);
-  EXPECT_THROW(zkXMLContainer(Repeated("<a>", 1000000), true), host::StackOverflowException);
+  EXPECT_THROW(zkXMLContainer("<a>" + deepest + "</a>"), base::StackOverflowException);
+  EXPECT_THROW(zkXMLContainer(Repeated("<a>", 1000000), true), base::StackOverflowException);
   EXPECT_TRUE(desktop_.messages.empty());
   EXPECT_EQ(Parsed(Repeated("<a>", 1000000), false), kRefused) << "the missing end tag comes first";
 }

@@ -2,20 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include "app/product.h"
 #include "host/memory/memory_desktop.h"
 
 namespace quill::nav {
 namespace {
 
-class OneFont final : public FontSource {
- public:
-  std::string GetFont() const override { return ""; }
-};
-
 class ButtonWindow final : public host::Window {
  public:
-  ButtonWindow(app::App& app, const FontSource& fonts)
-      : Window({}), button(AddControl<TextButton>(nullptr, host::Rect{10, 20, 30, 22}, app, fonts)) {
+  explicit ButtonWindow(app::App& app)
+      : Window({}), button(AddControl<TextButton>(nullptr, base::Rect{10, 20, 30, 22}, app)) {
     button.SetFontSize(12);
     button.IsPushed = [this](TextButton&) { ++pushed; };
   }
@@ -32,15 +28,14 @@ class TextButtonTest : public testing::Test {
     return dynamic_cast<host::RecordingGraphics&>(button_.GetGraphics()).TakeDrawn();
   }
 
-  host::MemoryDesktop desktop_;
+  host::MemoryDesktop desktop_{app::Quillmere()};
   app::App app_;
-  OneFont fonts_;
-  ButtonWindow window_{app_, fonts_};
+  ButtonWindow window_{app_};
   TextButton& button_ = window_.button;
 };
 
 TEST_F(TextButtonTest, DrawsItsLabelTwiceAndItsLineUnderIt) {
-  button_.SetLinkType(link_type::kPage);
+  button_.SetLinkType(content::link_type::kPage);
   button_.SetText("Go");
   EXPECT_EQ(button_.Width(), 20);
   EXPECT_EQ(button_.Height(), 24);
@@ -110,6 +105,9 @@ TEST_F(TextButtonTest, WithoutALabelItIsOutOfUse) {
 
 TEST_F(TextButtonTest, WithoutMemoryItStaysHidden) {
   desktop_.out_of_pictures = true;
+  button_.init();
+  EXPECT_TRUE(desktop_.messages.empty()) << "in its old size it keeps the picture that it has";
+  button_.SetWidth(31);
   button_.init();
   EXPECT_EQ(desktop_.messages, (std::vector<std::string>{"memory error, text button"}));
   button_.SetText("Go");

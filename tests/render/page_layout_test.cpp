@@ -16,7 +16,7 @@ content::Page MakePage(const std::vector<std::string>& columns, const std::vecto
   if (columns.size() == 2) page.SetText(columns[0], columns[1]);
   if (columns.size() == 3) page.SetText(columns[0], columns[1], columns[2]);
   for (const TestLink& link : links) {
-    page.AddLink(host::Str(link.offset), host::Str(link.length), link.target, link.type, link.column);
+    page.AddLink(base::Str(link.offset), base::Str(link.length), link.target, link.type, link.column);
   }
   return page;
 }

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "host/numbers.h"
+#include "base/numbers.h"
 
 namespace quill::tests {
 
@@ -28,9 +28,9 @@ inline std::string Element(const std::string& name, const std::string& value) {
 }
 
 inline std::string LinkXml(const TestLink& link) {
-  return "<Link Column=\"" + host::Str(link.column) + "\">" + Element("Offset", host::Str(link.offset)) +
-         Element("Length", host::Str(link.length)) + Element("LinkToPage", link.target) +
-         Element("LinkType", host::Str(link.type)) + Element("Filename", link.filename) + "</Link>";
+  return "<Link Column=\"" + base::Str(link.column) + "\">" + Element("Offset", base::Str(link.offset)) +
+         Element("Length", base::Str(link.length)) + Element("LinkToPage", link.target) +
+         Element("LinkType", base::Str(link.type)) + Element("Filename", link.filename) + "</Link>";
 }
 
 inline std::string PageXml(const TestPage& page, std::size_t id) {

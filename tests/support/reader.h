@@ -5,18 +5,22 @@
 #include <string>
 #include <vector>
 
+#include "app/product.h"
 #include "host/memory/memory_desktop.h"
-#include "main/program.h"
+#include "reader/program.h"
 #include "support/content_xml.h"
 
 namespace quill::tests {
 
 class Reader {
  public:
-  Reader() {
-    for (std::size_t mode = 0; mode < app::kModes.size(); ++mode) {
+  // `modes` must outlive the reader.
+  explicit Reader(app::Modes modes = app::kModes)
+      : program_(std::make_optional<Program>(modes)), modes_(modes) {
+    desktop.files.AddFile("Quillmere.app/Contents/Version", " 1.2.3\r\n");
+    for (std::size_t mode = 0; mode < modes.size(); ++mode) {
       SetPages(mode, {{"Cover", {"cover"}}});
-      SetFile(app::kModes[mode].glossary_file, ContentXml({{"Entry", {"entry"}}}));
+      SetFile(modes[mode].glossary_file, ContentXml({{"Entry", {"entry"}}}));
     }
   }
 
@@ -25,7 +29,7 @@ class Reader {
   }
 
   void SetPages(std::size_t mode, const std::vector<TestPage>& pages) {
-    SetFile(app::kModes[mode].content_file, ContentXml(pages));
+    SetFile(modes_[mode].content_file, ContentXml(pages));
   }
 
   // The viewer, which opens at the first call.
@@ -47,10 +51,11 @@ class Reader {
     return true;
   }
 
-  host::MemoryDesktop desktop;
+  host::MemoryDesktop desktop{app::Quillmere()};
 
  private:
-  std::optional<Program> program_ = std::make_optional<Program>();
+  std::optional<Program> program_;
+  app::Modes modes_;
 };
 
 }  // namespace quill::tests

@@ -3,10 +3,6 @@
 namespace quill::host {
 namespace {
 
-// The ids of the pictures stored with the program, both ends included.
-constexpr std::int32_t kFirstPicture = 168;
-constexpr std::int32_t kLastPicture = 173;
-
 constexpr double kMostPixels = 64.0 * 1024 * 1024;
 
 }  // namespace
@@ -35,7 +31,7 @@ std::shared_ptr<Picture> MemoryDesktop::NewPicture(std::int32_t width, std::int3
 }
 
 std::shared_ptr<Picture> MemoryDesktop::StoredPicture(std::int32_t id) {
-  if (id < kFirstPicture || id > kLastPicture) return nullptr;
+  if (!product.pictures.contains(id)) return nullptr;
   pictures_read.push_back(id);
   return std::make_shared<MemoryPicture>(metrics, 640, 480, "#" + std::to_string(id));
 }

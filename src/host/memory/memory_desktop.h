@@ -5,26 +5,31 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/desktop.h"
 #include "host/memory/memory_files.h"
 #include "host/memory/memory_window.h"
+#include "host/product.h"
 
 namespace quill::host {
 
 class MemoryDesktop final : public Desktop {
  public:
+  explicit MemoryDesktop(Product given = {}) : product(std::move(given)) {}
+
   void MsgBox(const std::string& text) override { messages.push_back(text); }
   void Quit(std::int32_t code) override { quit_code = code; }
   std::shared_ptr<FolderItem> ApplicationFolder() override;
   std::shared_ptr<FolderItem> PreferencesFolder() override;
   bool OpenDocument(const std::string& application, const std::string& path) override;
-  std::string LongVersion() override { return version; }
   FixedMetrics& Metrics() override { return metrics; }
   std::shared_ptr<Picture> NewPicture(std::int32_t width, std::int32_t height, std::int32_t depth) override;
   std::shared_ptr<Picture> StoredPicture(std::int32_t id) override;
   std::unique_ptr<WindowPeer> NewWindow(const WindowStyle& style, Window& window) override;
+
+  Product product;
 
   // The message boxes shown so far.
   std::vector<std::string> messages;
@@ -40,7 +45,6 @@ class MemoryDesktop final : public Desktop {
   std::vector<std::string> opened_documents;
   bool no_applications = false;  // none can be started
 
-  std::string version = "1.2.3";
   FixedMetrics metrics;
 
   // Windows in the order they were made, closed ones included.

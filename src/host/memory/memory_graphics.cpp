@@ -9,7 +9,7 @@ namespace {
 
 std::string Point(std::int32_t x, std::int32_t y) { return std::to_string(x) + "," + std::to_string(y); }
 
-std::string Hex(Color color) {
+std::string Hex(base::Color color) {
   std::array<char, 8> text = {};
   std::snprintf(text.data(), text.size(), "#%02x%02x%02x", color.red, color.green, color.blue);
   return text.data();
@@ -34,7 +34,7 @@ void RecordingGraphics::DrawString(std::string_view text, std::int32_t x, std::i
                    " " + Hex(ForeColor) + Flags(*this));
 }
 
-void RecordingGraphics::FillRect(const Rect& area) {
+void RecordingGraphics::FillRect(const base::Rect& area) {
   drawn_.push_back("fill " + Point(area.left, area.top) + " " + std::to_string(area.width) + "x" +
                    std::to_string(area.height) + " " + Hex(ForeColor));
 }

@@ -32,7 +32,7 @@ class RecordingGraphics final : public Graphics {
   using Graphics::Graphics;
 
   void DrawString(std::string_view text, std::int32_t x, std::int32_t y) override;
-  void FillRect(const Rect& area) override;
+  void FillRect(const base::Rect& area) override;
   void DrawLine(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2) override;
   void DrawPicture(const Picture& picture, std::int32_t x, std::int32_t y) override;
 

@@ -32,7 +32,7 @@ class MemoryPeer : public Interface, public MemoryPeerBase {
  public:
   using MemoryPeerBase::MemoryPeerBase;
 
-  void Place(const Rect& frame) override { control_.frame = frame; }
+  void Place(const base::Rect& frame) override { control_.frame = frame; }
   void SetVisible(bool visible) override { control_.visible = visible; }
   void SetEnabled(bool enabled) override { control_.enabled = enabled; }
 };
@@ -196,7 +196,7 @@ std::string MemoryScreen::Dump() const {
   std::string dump;
   for (const MemoryControl* control : controls) {
     if (!IsShown(*control) || control->text.empty()) continue;
-    const Rect& place = control->frame;
+    const base::Rect& place = control->frame;
     dump += KindName(*control) + " \"" + control->text + "\" " + std::to_string(place.left) + "," +
             std::to_string(place.top) + " " + std::to_string(place.width) + "x" +
             std::to_string(place.height) + "\n";
@@ -217,8 +217,8 @@ std::unique_ptr<CheckBoxPeer> MemoryWindow::NewCheckBox(CheckBox& box, const std
   return std::make_unique<MemoryCheckBoxPeer>(screen_, parent, box, caption);
 }
 
-std::unique_ptr<EditFieldPeer> MemoryWindow::NewEditField(const TextStyle& /*style*/, Color /*back_color*/,
-                                                          ControlPeer* parent) {
+std::unique_ptr<EditFieldPeer> MemoryWindow::NewEditField(const TextStyle& /*style*/,
+                                                          base::Color /*back_color*/, ControlPeer* parent) {
   return std::make_unique<MemoryEditPeer>(screen_, parent);
 }
 

@@ -19,7 +19,7 @@ struct MemoryControl {
 
   Kind kind = Kind::kCanvas;
   const MemoryControl* parent = nullptr;  // null: the window itself
-  Rect frame;                             // in its parent
+  base::Rect frame;                       // in its parent
   bool visible = true;
   bool enabled = true;
   std::string text;  // of a text, check box or field; the label of a canvas
@@ -34,7 +34,7 @@ struct MemoryControl {
 // program.
 class MemoryScreen {
  public:
-  Rect frame = {100, 50, 0, 0};  // where the desktop put the window
+  base::Rect frame = {100, 50, 0, 0};  // where the desktop put the window
   WindowStyle style;
   Window* window = nullptr;  // null when it has gone
   bool shown = false;        // and not hidden since
@@ -96,9 +96,9 @@ class MemoryWindow final : public WindowPeer {
   std::unique_ptr<StaticTextPeer> NewStaticText(const TextStyle& style, ControlPeer* parent) override;
   std::unique_ptr<CheckBoxPeer> NewCheckBox(CheckBox& box, const std::string& caption, const TextFace& face,
                                             ControlPeer* parent) override;
-  std::unique_ptr<EditFieldPeer> NewEditField(const TextStyle& style, Color back_color,
+  std::unique_ptr<EditFieldPeer> NewEditField(const TextStyle& style, base::Color back_color,
                                               ControlPeer* parent) override;
-  Rect Frame() const override { return screen_->frame; }
+  base::Rect Frame() const override { return screen_->frame; }
   void MoveTo(std::int32_t left, std::int32_t top) override {
     screen_->frame.left = left;
     screen_->frame.top = top;

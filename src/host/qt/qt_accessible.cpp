@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 
+#include "host/qt/qt_canvas.h"
 #include "host/qt/qt_controls.h"
 
 namespace quill::host {

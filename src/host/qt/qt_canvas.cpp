@@ -1,10 +1,10 @@
+#include "host/qt/qt_canvas.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <algorithm>
 #include <cmath>
-
-#include "host/qt/qt_controls.h"
 
 namespace quill::host {
 namespace {
@@ -39,7 +39,7 @@ void CanvasWidget::Retire() {
   SetBackdrop(nullptr);
 }
 
-void CanvasWidget::Place(const Rect& frame) {
+void CanvasWidget::Place(const base::Rect& frame) {
   const QRect place = ToQRect(frame);
   if (place.size() != size()) layer_ = QImage();
   setGeometry(place);

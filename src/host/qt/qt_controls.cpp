@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/qt/qt_canvas.h"
 #include "host/qt/qt_peer.h"
 
 namespace quill::host {
@@ -16,7 +17,7 @@ class QtCanvas final : public QtPeer<CanvasPeer, CanvasWidget> {
   using QtPeer::QtPeer;
   ~QtCanvas() override { widget_->Retire(); }
 
-  void Place(const Rect& frame) override { widget_->Place(frame); }
+  void Place(const base::Rect& frame) override { widget_->Place(frame); }
   void SetBackdrop(const std::shared_ptr<Picture>& backdrop) override { widget_->SetBackdrop(backdrop); }
   Graphics& GetGraphics() override { return widget_->GetGraphics(); }
   void SetLabel(const std::string& label) override { widget_->SetLabel(label); }

@@ -13,6 +13,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/text_converter.h"
 #include "host/application.h"
 #include "host/controls.h"
 #include "host/qt/qt_accessible.h"
@@ -23,8 +24,6 @@
 #include "host/qt/qt_signals.h"
 #include "host/qt/qt_text.h"
 #include "host/qt/qt_window.h"
-#include "host/text.h"
-#include "host/text_converter.h"
 
 // The pictures lie in a static library, whose resources nobody registers
 // unasked. The macro must stand outside every namespace.
@@ -33,18 +32,14 @@ static void RegisterPictures() { Q_INIT_RESOURCE(pictures); }
 namespace quill::host {
 namespace {
 
-constexpr const char* kProgramName = "Quillmere";
-constexpr const char* kBundleName = "Quillmere.app";
-constexpr std::uint64_t kLongestVersion = 256;
-
 bool IsSet(const char* variable) {
   const char* const value = std::getenv(variable);
   return value != nullptr && *value != '\0';
 }
 
-void ShowBox(const QString& text) {
+void ShowBox(const std::string& title, const QString& text) {
   QMessageBox box(QApplication::activeWindow());
-  box.setWindowTitle(QLatin1String(kProgramName));
+  box.setWindowTitle(QString::fromStdString(title));
   box.setIcon(QMessageBox::Information);
   box.setTextFormat(Qt::PlainText);
   box.setText(text);
@@ -69,11 +64,12 @@ bool HasDisplay() {
 
 // The toolkit's application object goes last, the metrics hold its fonts.
 struct QtDesktop::Parts {
-  Parts(int& argc, char** argv, Options given)
-      : options(Prepared(std::move(given))),
+  Parts(int& argc, char** argv, Product given_product, Options given)
+      : product(std::move(given_product)),
+        options(Prepared(std::move(given))),
         toolkit(argc, argv, [this](const std::string& what) { Fail(what); }) {
     RegisterPictures();
-    QApplication::setApplicationName(QLatin1String(kProgramName));
+    QApplication::setApplicationName(QString::fromStdString(product.name));
     QApplication::setQuitOnLastWindowClosed(false);
     AnnounceControls();
   }
@@ -83,6 +79,7 @@ struct QtDesktop::Parts {
   void Say(const std::string& text) const;
   void TellFailure(const std::string& text);
 
+  Product product;
   Options options;
   GuardedApplication toolkit;
   QtMetrics metrics;
@@ -98,9 +95,9 @@ void QtDesktop::Parts::Quit(int code) {
 
 void QtDesktop::Parts::Say(const std::string& text) const {
   if (options.messages == Messages::kStandardError) {
-    std::cerr << MacRomanToUtf8(text) << std::endl;
+    std::cerr << base::MacRomanToUtf8(text) << std::endl;
   } else {
-    ShowBox(Message(text));
+    ShowBox(product.name, Message(text));
   }
 }
 
@@ -109,21 +106,22 @@ void QtDesktop::Parts::Say(const std::string& text) const {
 // which adds nothing.
 void QtDesktop::Parts::Fail(const std::string& what) {
   if (std::exchange(failed, true)) return;
-  const std::string text = std::string(kProgramName) + " has to stop: " + what;
+  const std::string text = product.name + " has to stop: " + what;
   std::cerr << text << std::endl;
   QMetaObject::invokeMethod(
       &toolkit, [this, text] { TellFailure(text); }, Qt::QueuedConnection);
 }
 
 void QtDesktop::Parts::TellFailure(const std::string& text) {
-  if (options.messages == Messages::kBox && !quit_code) ShowBox(Message(text));
+  if (options.messages == Messages::kBox && !quit_code) ShowBox(product.name, Message(text));
   Quit(1);
 }
 
-QtDesktop::QtDesktop(int& argc, char** argv) : QtDesktop(argc, argv, Options()) {}
+QtDesktop::QtDesktop(int& argc, char** argv, Product product)
+    : QtDesktop(argc, argv, std::move(product), Options()) {}
 
-QtDesktop::QtDesktop(int& argc, char** argv, Options options)
-    : parts_(std::make_unique<Parts>(argc, argv, std::move(options))) {}
+QtDesktop::QtDesktop(int& argc, char** argv, Product product, Options options)
+    : parts_(std::make_unique<Parts>(argc, argv, std::move(product), std::move(options))) {}
 
 // Widgets of controls that have gone wait for a turn of the loop, which may
 // not come any more.
@@ -135,6 +133,8 @@ int QtDesktop::Run(Application& application) {
   const SessionSignals session([this] { Quit(0); });
   return QApplication::exec();
 }
+
+bool QtDesktop::HasQuit() const { return parts_->quit_code.has_value(); }
 
 bool QtDesktop::SaveScreen(Window& window, const std::filesystem::path& path) {
   return dynamic_cast<QtWindow&>(window.Peer()).Save(path);
@@ -156,13 +156,8 @@ std::shared_ptr<FolderItem> QtDesktop::PreferencesFolder() {
 }
 
 bool QtDesktop::OpenDocument(const std::string& application, const std::string& path) {
-  return StartApplication(application, path);
-}
-
-std::string QtDesktop::LongVersion() {
-  const auto file = ApplicationFolder()->Child(kBundleName)->Child("Contents")->Child("Version");
-  const auto stream = file->OpenAsBinaryFile();
-  return stream ? std::string(Trim(stream->Read(kLongestVersion))) : std::string();
+  const auto companion = parts_->product.companions.find(application);
+  return StartApplication(companion == parts_->product.companions.end() ? "" : companion->second, path);
 }
 
 FontMetrics& QtDesktop::Metrics() { return parts_->metrics; }
@@ -175,7 +170,9 @@ std::shared_ptr<Picture> QtDesktop::NewPicture(std::int32_t width, std::int32_t 
 }
 
 std::shared_ptr<Picture> QtDesktop::StoredPicture(std::int32_t id) {
-  const QString path = QStringLiteral(":/pictures/%1.svg").arg(id);
+  const auto name = parts_->product.pictures.find(id);
+  if (name == parts_->product.pictures.end()) return nullptr;
+  const QString path = QStringLiteral(":/pictures/%1.svg").arg(QString::fromStdString(name->second));
   QSvgRenderer drawing;
   if (!QFile::exists(path) || !drawing.load(path)) return nullptr;
   const QSize size = drawing.defaultSize();

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "host/desktop.h"
+#include "host/product.h"
 
 namespace quill::host {
 
@@ -44,8 +45,8 @@ class QtDesktop final : public Desktop {
   // `argc` and `argv` must outlive the desktop, which takes the toolkit's own
   // arguments out of them. Without a session to show windows in, the toolkit
   // ends the process; see `HasDisplay`.
-  QtDesktop(int& argc, char** argv);
-  QtDesktop(int& argc, char** argv, Options options);
+  QtDesktop(int& argc, char** argv, Product product);
+  QtDesktop(int& argc, char** argv, Product product, Options options);
   ~QtDesktop() override;
 
   // Delivers events until the program quits, and gives its exit status; at once
@@ -57,6 +58,9 @@ class QtDesktop final : public Desktop {
   // ends with status 1.
   int Run(Application& application);
 
+  // Whether the program has asked for its end.
+  bool HasQuit() const;
+
   // Writes the content of `window`, shown or not, as a PNG file at the density
   // of the screen; false if the file can't be written.
   bool SaveScreen(Window& window, const std::filesystem::path& path);
@@ -66,7 +70,6 @@ class QtDesktop final : public Desktop {
   std::shared_ptr<FolderItem> ApplicationFolder() override;
   std::shared_ptr<FolderItem> PreferencesFolder() override;
   bool OpenDocument(const std::string& application, const std::string& path) override;
-  std::string LongVersion() override;
   FontMetrics& Metrics() override;
   std::shared_ptr<Picture> NewPicture(std::int32_t width, std::int32_t height, std::int32_t depth) override;
   std::shared_ptr<Picture> StoredPicture(std::int32_t id) override;

@@ -6,20 +6,20 @@
 namespace quill::host {
 namespace {
 
-// Path of the program for that creator code, empty if there is none.
-QString ProgramFor(const std::string& creator) {
-  const QString companion =
-      creator == "QLD7" ? QStandardPaths::findExecutable(QStringLiteral("qld7")) : QString();
-  return companion.isEmpty() ? QStandardPaths::findExecutable(QStringLiteral("xdg-open")) : companion;
+// Path of what is to be started, empty if there is nothing.
+QString ExecutableFor(const std::string& program) {
+  const QString wanted =
+      program.empty() ? QString() : QStandardPaths::findExecutable(QString::fromStdString(program));
+  return wanted.isEmpty() ? QStandardPaths::findExecutable(QStringLiteral("xdg-open")) : wanted;
 }
 
 }  // namespace
 
-bool StartApplication(const std::string& creator, const std::string& path) {
-  const QString program = ProgramFor(creator);
-  if (program.isEmpty()) return false;
+bool StartApplication(const std::string& program, const std::string& path) {
+  const QString executable = ExecutableFor(program);
+  if (executable.isEmpty()) return false;
   QProcess process;
-  process.setProgram(program);
+  process.setProgram(executable);
   process.setArguments({QString::fromStdString(path)});
   process.setStandardInputFile(QProcess::nullDevice());
   process.setStandardOutputFile(QProcess::nullDevice());

@@ -5,12 +5,12 @@
 
 namespace quill::host {
 
-// Starts the application with that creator code on the document at `path` and
-// goes on at once; false if none could be started. The application is nobody's
-// child: whatever becomes of it doesn't touch this program.
+// Starts `program` on the document at `path` and goes on at once; false if
+// nothing could be started. What was started is nobody's child: whatever becomes
+// of it doesn't touch this program.
 //
-// "QLD7" is the program `qld7` on the path; where there is none, and for every
-// other code, the desktop's own opener serves.
-bool StartApplication(const std::string& creator, const std::string& path);
+// `program` is looked for on the path. Where it is empty or isn't there, the
+// desktop's own opener serves.
+bool StartApplication(const std::string& program, const std::string& path);
 
 }  // namespace quill::host

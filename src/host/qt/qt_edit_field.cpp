@@ -4,9 +4,9 @@
 #include <QStringDecoder>
 #include <QTextDocument>
 
+#include "base/text_converter.h"
 #include "host/qt/qt_graphics.h"
 #include "host/qt/qt_peer.h"
-#include "host/text_converter.h"
 
 namespace quill::host {
 namespace {
@@ -18,7 +18,7 @@ bool IsShownAsItIs(QChar c) {
 }
 
 QString FromMacRoman(const std::string& bytes) {
-  QString text = QString::fromStdU16String(MacRomanToUtf16(bytes));
+  QString text = QString::fromStdU16String(base::MacRomanToUtf16(bytes));
   for (QChar& c : text) {
     if (!IsShownAsItIs(c)) c = QChar(static_cast<char16_t>(kControlPictures + c.unicode()));
   }
@@ -44,14 +44,14 @@ bool HasDosLines(const std::string& text) {
 class QtEditField final : public QtPeer<EditFieldPeer, EditWidget> {
  public:
   using QtPeer::QtPeer;
-  void Place(const Rect& frame) override { widget_->Place(frame); }
+  void Place(const base::Rect& frame) override { widget_->Place(frame); }
   void SetText(const std::string& text) override { widget_->SetBytes(text); }
   std::string Text() override { return widget_->Bytes(); }
 };
 
 }  // namespace
 
-EditWidget::EditWidget(const TextStyle& style, Color back_color, QtMetrics& metrics, QWidget* parent)
+EditWidget::EditWidget(const TextStyle& style, base::Color back_color, QtMetrics& metrics, QWidget* parent)
     : QPlainTextEdit(parent) {
   setFont(metrics.FontOf(style.face));
   QPalette colors = palette();
@@ -64,7 +64,7 @@ EditWidget::EditWidget(const TextStyle& style, Color back_color, QtMetrics& metr
   parent->installEventFilter(this);
 }
 
-void EditWidget::Place(const Rect& frame) {
+void EditWidget::Place(const base::Rect& frame) {
   const QRect place = ToQRect(frame);
   const QSize room = parentWidget()->size();
   margins_ = QMargins(place.left(), place.top(), room.width() - place.right() - 1,
@@ -95,7 +95,7 @@ std::string EditWidget::Bytes() const {
   return text.toStdString();
 }
 
-std::unique_ptr<EditFieldPeer> NewEditPeer(const TextStyle& style, Color back_color, QtMetrics& metrics,
+std::unique_ptr<EditFieldPeer> NewEditPeer(const TextStyle& style, base::Color back_color, QtMetrics& metrics,
                                            QWidget& parent) {
   return std::make_unique<QtEditField>(new EditWidget(style, back_color, metrics, &parent));
 }

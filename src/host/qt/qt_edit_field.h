@@ -15,9 +15,9 @@ namespace quill::host {
 // out as bytes: as long as the user changes nothing, exactly those that went in.
 class EditWidget final : public QPlainTextEdit {
  public:
-  EditWidget(const TextStyle& style, Color back_color, QtMetrics& metrics, QWidget* parent);
+  EditWidget(const TextStyle& style, base::Color back_color, QtMetrics& metrics, QWidget* parent);
 
-  void Place(const Rect& frame);
+  void Place(const base::Rect& frame);
 
   // UTF-8. Bytes that aren't come from a file of before there was any: they show
   // as the Mac Roman that they then were.
@@ -32,7 +32,7 @@ class EditWidget final : public QPlainTextEdit {
   QMargins margins_;
 };
 
-std::unique_ptr<EditFieldPeer> NewEditPeer(const TextStyle& style, Color back_color, QtMetrics& metrics,
+std::unique_ptr<EditFieldPeer> NewEditPeer(const TextStyle& style, base::Color back_color, QtMetrics& metrics,
                                            QWidget& parent);
 
 }  // namespace quill::host

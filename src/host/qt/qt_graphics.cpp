@@ -13,10 +13,6 @@ namespace {
 
 constexpr double kMostPixels = 64.0 * 1024 * 1024;
 
-// Farthest place and largest size of a widget.
-constexpr std::int32_t kFarthest = 1'000'000;
-constexpr std::int32_t kLargest = 1'000'000;
-
 // The bounds of `image` in the program's pixels.
 QRectF Bounds(const QImage& image) { return {QPointF(0, 0), image.deviceIndependentSize()}; }
 
@@ -40,7 +36,7 @@ std::optional<QLineF> Clipped(const QLineF& line, const QRectF& bounds) {
   return QLineF(line.pointAt(part.first), line.pointAt(part.second));
 }
 
-void PaintSlanted(QImage& pixels, Color color, const QLineF& line) {
+void PaintSlanted(QImage& pixels, base::Color color, const QLineF& line) {
   const std::optional<QLineF> seen = Clipped(line, Bounds(pixels).adjusted(-2, -2, 2, 2));
   if (!seen) return;
   QPainter painter(&pixels);
@@ -49,13 +45,6 @@ void PaintSlanted(QImage& pixels, Color color, const QLineF& line) {
 }
 
 }  // namespace
-
-QColor ToQColor(Color color) { return {color.red, color.green, color.blue}; }
-
-QRect ToQRect(const Rect& frame) {
-  return {std::clamp(frame.left, -kFarthest, kFarthest), std::clamp(frame.top, -kFarthest, kFarthest),
-          std::clamp(frame.width, 0, kLargest), std::clamp(frame.height, 0, kLargest)};
-}
 
 QImage NewImage(std::int32_t width, std::int32_t height, const QColor& color) {
   const double density = qGuiApp->devicePixelRatio();
@@ -91,7 +80,7 @@ void QtGraphics::DrawString(std::string_view text, std::int32_t x, std::int32_t 
   surface_.Changed();
 }
 
-void QtGraphics::FillRect(const Rect& area) {
+void QtGraphics::FillRect(const base::Rect& area) {
   QImage* const pixels = surface_.Pixels();
   if (pixels == nullptr || area.width <= 0 || area.height <= 0) return;
   const QRectF seen = QRectF(area.left, area.top, area.width, area.height) & Bounds(*pixels);

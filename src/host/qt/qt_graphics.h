@@ -5,26 +5,19 @@
 // from the upper left corner.
 #pragma once
 
-#include <QColor>
 #include <QImage>
-#include <QRect>
 #include <cstdint>
 #include <memory>
 #include <vector>
 
-#include "host/geometry.h"
+#include "base/geometry.h"
 #include "host/graphics.h"
 #include "host/qt/qt_text.h"
+#include "host/qt/qt_values.h"
 
 class QPainter;
 
 namespace quill::host {
-
-QColor ToQColor(Color color);
-
-// `frame` brought into the range in which the toolkit can place a widget. What
-// it cuts off lies far outside every window.
-QRect ToQRect(const Rect& frame);
 
 // An image of that many of the program's pixels, filled with `color`; null if
 // a side is not above 0, or there are too many pixels in all.
@@ -54,7 +47,7 @@ class QtGraphics final : public Graphics {
       : Graphics(metrics), metrics_(metrics), surface_(surface) {}
 
   void DrawString(std::string_view text, std::int32_t x, std::int32_t y) override;
-  void FillRect(const Rect& area) override;
+  void FillRect(const base::Rect& area) override;
   void DrawLine(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2) override;
   void DrawPicture(const Picture& picture, std::int32_t x, std::int32_t y) override;
 

@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-#include "host/geometry.h"
+#include "base/geometry.h"
 #include "host/qt/qt_graphics.h"
 
 namespace quill::host {
@@ -25,7 +25,7 @@ class QtPeer : public Interface, public WidgetHolder {
     widget_->deleteLater();
   }
 
-  void Place(const Rect& frame) override { widget_->setGeometry(ToQRect(frame)); }
+  void Place(const base::Rect& frame) override { widget_->setGeometry(ToQRect(frame)); }
   void SetVisible(bool visible) override { widget_->setVisible(visible); }
   void SetEnabled(bool enabled) override { widget_->setEnabled(enabled); }
   QWidget* Widget() override { return widget_; }

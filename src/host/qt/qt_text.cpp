@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/numbers.h"
-#include "host/qt/qt_graphics.h"
-#include "host/text_converter.h"
+#include "base/numbers.h"
+#include "base/text_converter.h"
+#include "host/qt/qt_values.h"
 
 namespace quill::host {
 namespace {
@@ -52,13 +52,13 @@ bool IsControl(QChar c) { return c.unicode() < 0x20 || c.unicode() == 0x7F; }
 }  // namespace
 
 QString LineOfText(std::string_view text) {
-  QString line = QString::fromStdU16String(MacRomanToUtf16(text.substr(0, kLongestLine)));
+  QString line = QString::fromStdU16String(base::MacRomanToUtf16(text.substr(0, kLongestLine)));
   std::replace_if(line.begin(), line.end(), IsControl, QChar(u' '));
   return line;
 }
 
 QString Message(std::string_view text) {
-  return QString::fromStdU16String(MacRomanToUtf16(text.substr(0, kLongestLine)));
+  return QString::fromStdU16String(base::MacRomanToUtf16(text.substr(0, kLongestLine)));
 }
 
 QtMetrics::Face::Face(const TextFace& face) : font(MakeFont(face)), metrics(font) {}
@@ -86,13 +86,13 @@ void QtMetrics::Remember(Face& face, std::string_view text, double width) {
   ++remembered_;
 }
 
-std::int32_t QtMetrics::TextHeight(const TextFace& face) { return ToInt32(SizeOf(face) * kLineHeight); }
+std::int32_t QtMetrics::TextHeight(const TextFace& face) { return base::ToInt32(SizeOf(face) * kLineHeight); }
 
 std::int32_t QtMetrics::BaseLine(const TextFace& face) {
-  return ToInt32(std::round(LookUp(face).metrics.ascent()));
+  return base::ToInt32(std::round(LookUp(face).metrics.ascent()));
 }
 
-void PaintLine(QPainter& painter, QtMetrics& metrics, const TextFace& face, Color color,
+void PaintLine(QPainter& painter, QtMetrics& metrics, const TextFace& face, base::Color color,
                std::string_view text, const QPointF& base_line) {
   painter.setPen(ToQColor(color));
   painter.setFont(metrics.FontOf(face));

@@ -69,7 +69,7 @@ class QtMetrics final : public FontMetrics {
 };
 
 // Paints `text` in `color`, the left end of its base line at `base_line`.
-void PaintLine(QPainter& painter, QtMetrics& metrics, const TextFace& face, Color color,
+void PaintLine(QPainter& painter, QtMetrics& metrics, const TextFace& face, base::Color color,
                std::string_view text, const QPointF& base_line);
 
 }  // namespace quill::host

@@ -13,6 +13,7 @@
 #include "host/desktop.h"
 #include "host/qt/qt_controls.h"
 #include "host/qt/qt_edit_field.h"
+#include "host/qt/qt_values.h"
 
 namespace quill::host {
 namespace {
@@ -133,12 +134,12 @@ std::unique_ptr<CheckBoxPeer> QtWindow::NewCheckBox(CheckBox& box, const std::st
   return NewCheckBoxPeer(box, caption, face, metrics_, ParentWidget(parent));
 }
 
-std::unique_ptr<EditFieldPeer> QtWindow::NewEditField(const TextStyle& style, Color back_color,
+std::unique_ptr<EditFieldPeer> QtWindow::NewEditField(const TextStyle& style, base::Color back_color,
                                                       ControlPeer* parent) {
   return NewEditPeer(style, back_color, metrics_, ParentWidget(parent));
 }
 
-Rect QtWindow::Frame() const {
+base::Rect QtWindow::Frame() const {
   const QRect content = widget_->geometry();
   return {content.x(), content.y(), content.width(), content.height()};
 }

@@ -46,9 +46,9 @@ class QtWindow final : public WindowPeer {
   std::unique_ptr<StaticTextPeer> NewStaticText(const TextStyle& style, ControlPeer* parent) override;
   std::unique_ptr<CheckBoxPeer> NewCheckBox(CheckBox& box, const std::string& caption, const TextFace& face,
                                             ControlPeer* parent) override;
-  std::unique_ptr<EditFieldPeer> NewEditField(const TextStyle& style, Color back_color,
+  std::unique_ptr<EditFieldPeer> NewEditField(const TextStyle& style, base::Color back_color,
                                               ControlPeer* parent) override;
-  Rect Frame() const override;
+  base::Rect Frame() const override;
   void MoveTo(std::int32_t left, std::int32_t top) override;
   void Show() override;
   void Hide() override { widget_->hide(); }

@@ -1,0 +1,48 @@
+// From the letters of a paragraph to words of a column, with their indents, and
+// to the runs that lie on them. It knows the reader's text, and of the
+// manuscript's spellings the stop `{2}` alone.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "authoring/manuscript/diagnostic.h"
+#include "authoring/manuscript/manuscript.h"
+
+namespace quill::authoring {
+
+// What lies on a letter. Neighbours with the same mark are one run.
+struct Mark {
+  std::int32_t style = 0;  // link type of the style, 3 to 8; 0 for plain letters
+  std::int32_t link = -1;  // index among the paragraph's targets, -1 for none
+
+  bool IsPlain() const { return style == 0 && link < 0; }
+  friend bool operator==(const Mark&, const Mark&) = default;
+};
+
+struct Letter {
+  char code = ' ';  // Mac Roman; a line feed is no letter
+  int line = 1;
+  Mark mark;
+  bool verbatim = false;  // taken as it stands: no stop, and no sign of a slip
+};
+
+// Where a paragraph begins. A stop is 25 pixels of the reader's page.
+struct Indent {
+  std::int32_t gutter = 0;  // stops that stand before stop 0 of the column
+  std::int32_t stop = 0;
+  std::string number;  // stands one stop before; empty for none
+};
+
+struct Paragraph {
+  std::vector<Letter> letters;
+  std::vector<Target> targets;
+  Indent indent;
+};
+
+// Appends `paragraph` to `column`. One without words is an empty paragraph,
+// whatever its indent.
+void TypesetParagraph(const Paragraph& paragraph, Column& column, Diagnostics& diagnostics);
+
+}  // namespace quill::authoring

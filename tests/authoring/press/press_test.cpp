@@ -1,0 +1,133 @@
+#include "authoring/press/press.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "authoring/area.h"
+#include "authoring/manuscript/manuscript_reader.h"
+#include "authoring/page_words.h"
+#include "base/numbers.h"
+#include "content/xml_file.h"
+#include "host/memory/memory_desktop.h"
+#include "render/page_settings.h"
+#include "support/texts.h"
+
+namespace quill::authoring {
+namespace {
+
+constexpr const char* kGlossary = "# First {#first}\n\na\n\n# Second {#second}\n\nb\n";
+constexpr const char* kLives = "# Bio {#cover}\n\n# Ann {#ann}\n\n# Bob {#bob}\n";
+
+// The content file, or a line for each diagnostic.
+std::string PressText(const std::string& markdown) {
+  const Manuscript manuscript = ReadManuscript(markdown);
+  const Manuscript glossary = ReadManuscript(kGlossary);
+  const Manuscript lives = ReadManuscript(kLives);
+  Diagnostics diagnostics = manuscript.diagnostics;
+  const auto bytes = Press(manuscript, {&glossary, &lives}, diagnostics);
+  EXPECT_NE(bytes.has_value(), !diagnostics.empty());
+  std::string lines;
+  for (const Diagnostic& diagnostic : diagnostics)
+    lines += base::Str(diagnostic.line) + ": " + diagnostic.sentence + "\n";
+  return bytes.value_or(lines);
+}
+
+// A document as the reader's store loads it.
+struct Loaded {
+  explicit Loaded(const std::string& xml) {
+    desktop.files.AddFile("Quillmere.app/Contents/Data/a.xml", xml);
+    EXPECT_TRUE(file.Init() && file.GetDocument(document)) << xml;
+  }
+
+  host::MemoryDesktop desktop;
+  content::zkXMLFileClass file{"a.xml"};
+  std::shared_ptr<content::Document> document = std::make_shared<content::Document>();
+};
+
+// Of each page id, title and texts, and each link as column, offset, length,
+// target, type and file.
+std::string Dump(const content::Document& document) {
+  std::string dump;
+  for (std::int32_t i = 0; i <= document.GetUbound(); ++i) {
+    const content::Page& page = *document.GetPageByOffset(i);
+    dump += page.GetPageID() + " " + page.GetTitle();
+    for (std::int32_t c = 1; c <= page.GetColumns(); ++c) dump += " " + tests::Quoted(page.GetText(c));
+    for (const auto& link : LinksOf(page)) {
+      dump += " " + std::to_string(link->GetColumn()) + ":" + link->GetOffset() + "+" + link->GetLength() +
+              ">" + link->GetLinkToPage() + ":" + std::to_string(link->GetType()) + link->GetFilename();
+    }
+    dump += "\n";
+  }
+  return dump;
+}
+
+std::string Load(const std::string& markdown) { return Dump(*Loaded(PressText(markdown)).document); }
+
+TEST(PressTest, NamesOffsetsByTheLayoutsCount) {
+  tests::ExpectEach(Load,
+                    {{"# A\n\n[No](plain:) **now.**\n\n- [See](plain:) [it](plain:)\n",
+                      "0 A \"No now.\\n\\tSee it\" 1:0+2>0:2 1:3+4>0:4 1:10+3>0:2 1:14+2>0:2\n",
+                      "the layout's own example"},
+                     {"# A\n\n<br>\n\n{2} [b](plain:) c\n\n---\n\nd {1} *e f*\n\n---\n\n**g**\n",
+                      "0 A \"\\n\\t \\tb c\" \"d \\te f\" \"g\" 1:4+1>0:2 2:3+3>0:3 3:0+1>0:4\n",
+                      "each column counts anew"},
+                     {"# A {#a}\n\n[b](#b) [f](glossary:first) [s](glossary:second)\n\n# B {#b}\n\n[a](#a) "
+                      "[d](doc:d.pdf)\n",
+                      "0 A \"b f s\" 1:0+1>1:0 1:2+1>0:1 1:4+1>1:1\n1 B \"a d\" 1:0+1>0:0 1:2+1>0:9d.pdf\n"},
+                     {"# A\n\n[Stage](mode:2) [Ann](bio:ann) *x*\n",
+                      "0 A \"Stage Ann x\" 1:0+5>2:2 1:6+3>101:2 1:10+1>0:3\n"}});
+}
+
+TEST(PressTest, KeepsAwkwardTextToTheLetter) {
+  const Loaded loaded(
+      PressText("<!--\nApplication: Q & é\nVersion: 2.3\n-->\n# T & <\"'é\n\n"
+                "a &amp; b \\<c> \"d\" 'e' ]]> f\n\n---\n\ncafé & {1} x\n\ny &lt;b&gt;\n\n"
+                "---\n\n&nbsp; ^ % &#38; ;\n\n# B\n"));
+  EXPECT_EQ(loaded.file.GetAppName() + loaded.file.GetAppVersion(),
+            "Q & \x8E"
+            "2.3");
+  EXPECT_EQ(loaded.file.GetLastPageID(), 1);
+  EXPECT_EQ(Dump(*loaded.document),
+            "0 T & <\"'\x8E \"a & b <c> \"d\" 'e' ]]> f\" \"caf\\x8E & \\tx\\ny <b>\" \"\\xCA ^ % & ;\"\n1 B "
+            "\"\"\n");
+}
+
+TEST(PressTest, EveryLinkFindsItsWordsInTheLayout) {
+  std::mt19937 random(11);
+  const std::vector<std::string> pieces = {"end. ",    "a&#9;b ",       "\n\n- ", "\n\n3. ",
+                                           "\n\n",     "na\xC3\xAFve ", "*s* ",   "[a b](plain:) ",
+                                           "**c d** ", "\n\n<br>\n\n"};
+  for (int i = 0; i < 200; ++i) {
+    const std::string text = "# A\n\n" + tests::RandomText(random, pieces, 30) + "\n\n---\n\n" +
+                             tests::RandomText(random, pieces, 20) + "\n";
+    Loaded loaded(PressText(text));
+    const auto page = loaded.document->GetPage(0);
+    const auto links = LinksOf(*page);
+    const auto layout = LayOutPage(*page, render::PageSettings(app::kModes[1], page->GetColumns(), "0"),
+                                   loaded.desktop.Metrics());
+    ASSERT_EQ(layout.links.size(), links.size()) << text;
+    for (const render::PlacedLink& placed : layout.links)
+      EXPECT_EQ(std::to_string(placed.text.size()), links[placed.index]->GetLength()) << placed.text << text;
+  }
+}
+
+TEST(PressTest, SaysWhatCantBePressed) {
+  const std::string many = tests::Repeated("*a* b\n", 61);
+  tests::ExpectEach(
+      PressText,
+      {{"# A\n\n[x](#y) [x](glossary:y)\n[z](glossary:first)",
+        "3: the manuscript itself has no page named \"y\"\n3: the glossary beside this manuscript has no "
+        "page "
+        "named \"y\"\n"},
+       {"# A\n\n" + many + "[c](plain:)",
+        "64: a page has 61 links and styled runs at most: this is one more\n"},
+       {"# A {#a}\n\n[x](mode:1)\n[y](#a)",
+        "4: on the opening page, the one with mode: and bio: links, every link leads to an area\n"},
+       {"# A\n\na &amp;lt; b",
+        "1: a content file can't keep this page's text to the letter: is there something like "
+        "&lt; or &#65; spelled out in it?\n"}});
+}
+
+}  // namespace
+}  // namespace quill::authoring

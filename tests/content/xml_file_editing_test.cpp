@@ -1,0 +1,174 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "base/exceptions.h"
+#include "base/numbers.h"
+#include "content/xml_file.h"
+#include "host/memory/memory_desktop.h"
+#include "markup/text_helpers.h"
+#include "support/texts.h"
+
+namespace quill::content {
+namespace {
+
+using tests::Quoted;
+
+constexpr const char* kPath = "Quillmere.app/Contents/Data/a.xml";
+
+// A page as its id, title and texts, a link as "(offset length target type column file)".
+std::string DumpOf(zkXMLFileClass& file) {
+  const auto document = std::make_shared<Document>();
+  EXPECT_TRUE(file.GetDocument(document));
+  std::ostringstream dump;
+  for (std::int32_t i = 0; i <= document->GetUbound(); ++i) {
+    const Page& page = *document->GetPageByOffset(i);
+    dump << page.GetPageID() << " " << Quoted(page.GetTitle());
+    for (std::int32_t column = 1; column <= page.GetColumns(); ++column) dump << Quoted(page.GetText(column));
+    for (const auto& link : LinksOf(page)) {
+      dump << " (" << link->GetOffset() << " " << link->GetLength() << " " << link->GetLinkToPage() << " "
+           << link->GetType() << " " << link->GetColumn() << " " << link->GetFilename() << ")";
+    }
+    dump << "; ";
+  }
+  return dump.str();
+}
+
+struct EditingTest : testing::Test {
+  ~EditingTest() override { markup::zkXMLToolkitGlobals::UseXMLFormatting = false; }
+
+  void Open(const std::string& text) {
+    desktop_.files.AddFile(kPath, text);
+    ASSERT_TRUE(file_.Init());
+    DumpOf(file_);
+  }
+
+  // `Open` with page 0 alone, which holds this behind its title and text.
+  void OpenPage(const std::string& rest) {
+    Open("<Root><AppInfo/><Document><Page><PageID>0</PageID><Title>T</Title><Text>x</Text>" + rest +
+         "</Page></Document></Root>");
+  }
+
+  std::string SavedBytes() {
+    EXPECT_TRUE(file_.Save());
+    return desktop_.files.Bytes(kPath);
+  }
+
+  // What stands between these two in the saved file.
+  std::string Saved(const std::string& begin, const std::string& end) {
+    const std::string bytes = SavedBytes();
+    const std::size_t from = bytes.find(begin) + begin.size();
+    return bytes.substr(from, bytes.find(end, from) - from);
+  }
+
+  // What the saved file loads to; the tree in memory gives the same.
+  std::string Reloaded() {
+    const std::string bytes = SavedBytes();
+    zkXMLFileClass again("a.xml");
+    EXPECT_TRUE(again.Init());
+    EXPECT_EQ(DumpOf(file_), DumpOf(again)) << Quoted(bytes);
+    EXPECT_EQ(SavedBytes(), bytes);
+    return DumpOf(again);
+  }
+
+  host::MemoryDesktop desktop_;
+  zkXMLFileClass file_{"a.xml"};
+};
+
+TEST_F(EditingTest, AFileGrowsFromNothing) {
+  Open("<Root><AppInfo><LastPageID>-1</LastPageID></AppInfo><Document/></Root>");
+  file_.AddPage("Start", "See.\r\n&amp;lt; a]]>b");
+  file_.AddPage("", "x", "\xE9");
+  file_.AddPage("'\"&amp;", "1", "2", " \t");
+  file_.AddLink("0", "9", "5", "1", 0);
+  file_.AddLink("2.7", "0", "1", "<", -1, 3);
+  file_.AddLink("1", "0", "1", "", 9, 2, "a b.pdf");
+  const std::string grown =
+      "0 \"Start\"\"See.\\n< a]]>b\" (9 5 1 0 1 ); "
+      "1 \"\"\"x\"\"\\x8E\" (0 1  9 2 a b.pdf); "
+      "2 \"'\"&\"\"1\"\"2\"\" \\t\" (0 1 < -1 3 ); ";
+  EXPECT_EQ(Reloaded(), grown);
+  markup::zkXMLToolkitGlobals::UseXMLFormatting = true;
+  EXPECT_EQ(Reloaded(), grown) << "indentation would fill the empty title";
+  EXPECT_EQ(Saved("<LastPageID>", "<"), "2");
+  EXPECT_EQ(
+      Saved("</Page>", "</Link>"),
+      "<Page Columns=\"2\"><PageID>1</PageID><Title></Title><Text>x</Text><Text>&amp;#233;</Text><Links>"
+      "<Link Column=\"2\"><Offset>0</Offset><Length>1</Length><LinkToPage></LinkToPage>"
+      "<LinkType>9</LinkType><Filename>a b.pdf</Filename>");
+  EXPECT_TRUE(file_.GetPage("2") && !file_.GetPage("3") && !file_.GetPage("-1") && !file_.GetPage("9e99"));
+}
+
+TEST_F(EditingTest, UpdatesWhatAPageHasToTheLetter) {
+  OpenPage("<Text/><Text>z</Text>");
+  file_.UpdatePage("0", "&amp;", "a\x8E", "b", "c");
+  file_.UpdatePage("0", "&amp;", "y", "b");
+  file_.UpdatePage("1", "no", "such page");
+  file_.IncrementPageID();
+  EXPECT_EQ(Saved("<Title>", "</Document>"),
+            "&amp;amp;amp;</Title><Text>y</Text><Text/><Text>c</Text><Links/></Page>")
+      << "nothing is made but the links";
+  EXPECT_EQ(Saved("<AppInfo", ">") + base::Str(file_.GetLastPageID()), "/1") << "an id goes up untold";
+}
+
+TEST_F(EditingTest, LinksKeepTheirNumbers) {
+  OpenPage("");
+  file_.AddLink("0", "1", "2", "3", 4);
+  EXPECT_EQ(Reloaded(), "0 \"T\"\"x\"; ") << "no place for links, and none made";
+  file_.UpdatePage("0", "T", "x");
+  file_.AddLink("0", "7", "1", "a", 0, 2);
+  file_.AddLink("0", "7", "2", "b", 0, 1);
+  file_.AddLink("0", "8", "3", "c", 0, 3, "f");
+  for (const char* const offset : {"07", "7"}) file_.DeleteLink("0", offset);
+  file_.DeleteLink("1", "7");
+  for (const std::int32_t outside : {0, 4}) file_.UpdateLink("0", outside, "!", "!", "!", 1);
+  file_.UpdateLink("0", 1, "!", "!", "!", 1);
+  EXPECT_EQ(desktop_.messages, std::vector<std::string>{"Unable to locate link 1"});
+  file_.UpdateLink("0", 3, "9", "4", "d", 5);
+  EXPECT_EQ(Saved("<Links>", "<Offset>"), "<Link Column=\"2\"/><Link Column=\"1\">");
+  EXPECT_EQ(Reloaded(), "0 \"T\"\"x\" (7 2 b 0 1 ) (9 4 d 5 3 f); ");
+}
+
+TEST_F(EditingTest, RaisesTheVersionByATenth) {
+  const auto raised = [this](const std::string& version) {
+    Open("<Root><AppInfo><Version>" + version + "</Version></AppInfo><Document/></Root>");
+    file_.IncrementVersion();
+    return Saved("<Version>", "<");
+  };
+  tests::ExpectEach(raised,
+                    {{"1.3", "1.4"}, {"1.9", "2"}, {"x", "0.1"}, {"-0.1", "0"}, {"1234.5", "1234.6"}});
+}
+
+TEST_F(EditingTest, NothingIsEditedOutOfOrder) {
+  EXPECT_FALSE(file_.Save());
+  EXPECT_THROW(file_.IncrementVersion(), base::NilObjectException);
+  desktop_.files.AddFile(kPath, "<Root><AppInfo/></Root>");
+  EXPECT_TRUE(file_.Init() && !file_.GetDocument(std::make_shared<Document>()));
+  EXPECT_THROW(file_.AddPage("T", "x"), base::NilObjectException);
+  EXPECT_EQ(file_.GetLastPageID(), 0) << "no id is lost";
+}
+
+TEST_F(EditingTest, SavesNothingThatItCantOrThatBelongsElsewhere) {
+  OpenPage("<Links/>");
+  desktop_.files.Refuse(kPath);
+  EXPECT_FALSE(file_.Save());
+  desktop_.files.AddFile("Quillmere.app/Contents/Data/b.xml", "<Root>");
+  file_.SetFilename("b.xml");
+  EXPECT_FALSE(file_.Init() || file_.Save()) << "the tree of one file went into another";
+}
+
+TEST_F(EditingTest, OurOwnFilesComeBackAsTheyWere) {
+  for (const auto& entry : std::filesystem::directory_iterator(QUILL_CONTENT_DIR)) {
+    if (entry.path().extension() != ".xml") continue;
+    std::ostringstream bytes;
+    bytes << std::ifstream(entry.path(), std::ios::binary).rdbuf();
+    Open(bytes.str());
+    const std::string loaded = DumpOf(file_);
+    EXPECT_EQ(Reloaded(), loaded) << entry.path();
+  }
+}
+
+}  // namespace
+}  // namespace quill::content
