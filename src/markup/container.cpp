@@ -42,6 +42,21 @@ zkXMLContainer::zkXMLContainer(std::string text, bool relaxed)
 zkXMLContainer::zkXMLContainer(const std::shared_ptr<host::FolderItem>& file)
     : zkXMLContainer(TextOf(file), IsHtml(file)) {}
 
+std::string zkXMLContainer::GetXMLString() const {
+  std::string document;
+  for (std::int32_t i = 1; i <= ContentCount(); ++i) {
+    zkXMLObject& object = *GetContent(i);
+    if (const auto* const text = dynamic_cast<const zkXMLTextSection*>(&object)) {
+      if (!text->IsLeftOut()) document += text->GetXMLString();
+      continue;
+    }
+    const zkXMLElement* const element = object.asElement();
+    document += element != nullptr ? element->GetXMLString(1) : object.GetXMLString();
+    document += getLineBreakAndIndent(0);
+  }
+  return document;
+}
+
 void zkXMLContainer::ParseIncrementally(const std::string& chunk, bool relaxed) {
   if (IsComplete()) return;
   if (!input_.incremental) {

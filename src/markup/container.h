@@ -5,6 +5,9 @@
 // Built empty it may be fed in chunks; it then never becomes complete, and the
 // tree shows elements that are still open. See `parser.h` for what is accepted.
 //
+// No program of ours feeds chunks: `ParseIncrementally`, `IsConsistent` and the empty
+// container that they need are there for other users of the toolkit.
+//
 // A failed parse shows two message boxes and passes its
 // `zkXMLParsingException` on.
 #pragma once
@@ -52,11 +55,17 @@ class zkXMLContainer final : public zkXMLElement {
   // alone.
   bool IsConsistent() const;
 
+  // Ours, not the domain's:
+
+  bool IsDocument() const override { return true; }
+
   // What the parse has not consumed; empty after a finished one.
   const std::string& UnreadText() const { return input_.text; }
 
  private:
   bool parseElementContent(zkXMLElement& element) { return Parser(input_).parseElementContent(element); }
+
+  // Ours, not the domain's:
 
   ParserInput input_;
 };

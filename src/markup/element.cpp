@@ -187,12 +187,12 @@ void zkXMLElement::SetAttribute(std::string_view attribute, Variant value) {
   }
 }
 
-void zkXMLElement::takeContent(std::shared_ptr<zkXMLObject>* first, std::shared_ptr<zkXMLObject>* last) {
+void zkXMLElement::TakeContent(std::shared_ptr<zkXMLObject>* first, std::shared_ptr<zkXMLObject>* last) {
   content.insert(content.end(), std::make_move_iterator(first), std::make_move_iterator(last));
 }
 
-void zkXMLElement::takeContentOf(zkXMLElement& other) {
-  takeContent(other.content.data(), other.content.data() + other.content.size());
+void zkXMLElement::TakeContentOf(zkXMLElement& other) {
+  TakeContent(other.content.data(), other.content.data() + other.content.size());
   other.content.clear();
 }
 

@@ -11,6 +11,7 @@
 // than those of a flat one.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -41,14 +42,12 @@ class zkXMLElement : public zkXMLObject {
   static std::string getLineBreakAndIndent(std::int32_t i);
 
   std::string GetName() const override { return name; }
-  bool IsNamed(std::string_view other) const;
   void SetName(std::string new_name) override { name = std::move(new_name); }
 
   // An element has no text of its own.
   Variant GetData() const override { return {}; }
   void SetData(Variant /*value*/) override {}
-
-  zkXMLElement* asElement() override { return this; }
+  void SetData(std::nullptr_t) = delete;
 
   // Entry `i` of a list, null for 0. Throws `OutOfBoundsException` for a number
   // that is none of the list's. The reference holds until the list changes.
@@ -61,12 +60,14 @@ class zkXMLElement : public zkXMLObject {
 
   std::shared_ptr<zkXMLAttribute> GetAttribute(std::string_view attribute) const;
 
+  // Number of child elements: all (which no program of ours asks), those of a name.
   std::int32_t ElementCount() const;
   std::int32_t ElementCount(std::string_view element) const;
 
   // Child element number `i`, counted from 1 among those that fit: all, those
   // of that name, those that have such an attribute besides, those that have
-  // one of that value (decoded, compared as names are).
+  // one of that value (decoded, compared as names are). No program of ours counts
+  // among all.
   std::shared_ptr<zkXMLElement> GetElement(std::int32_t i) const;
   std::shared_ptr<zkXMLElement> GetElement(std::string_view element) const;
   std::shared_ptr<zkXMLElement> GetElement(std::string_view element, std::int32_t i) const;
@@ -76,12 +77,12 @@ class zkXMLElement : public zkXMLObject {
                                            std::string_view attribute, std::string_view value) const;
 
   // The element at the end of a path, null if a step leads nowhere. See
-  // `path_query.cpp` for what a path may be.
+  // `element_path_query.cpp` for what a path may be.
   std::shared_ptr<zkXMLElement> GetDeepElement(std::string_view path) const;
 
   // The first child element of that name. `i` becomes its entry number in the
   // content, where all kinds of object count; it stays as it was if there is
-  // none.
+  // none. No program of ours calls this.
   std::shared_ptr<zkXMLElement> GetElementAndIndex(std::string_view element, std::int32_t& i) const;
 
   // Text section number `i` from 1. A CDATA section is not a text section.
@@ -97,40 +98,54 @@ class zkXMLElement : public zkXMLObject {
 
   // Inserts at entry `i`, 1 to count + 1, of the list that `AddObject` would
   // take; entries from there on move up. Throws `OutOfBoundsException` for any
-  // other number.
+  // other number. No program of ours calls this.
   void InsertObject(std::shared_ptr<zkXMLObject> object, std::int32_t i);
 
   // Later entries move down. Throws `OutOfBoundsException` for a number outside
-  // 1 to count.
+  // 1 to count. No program of ours removes attributes.
   void RemoveContent(std::int32_t i);
   void RemoveAttribute(std::int32_t i);
 
-  // Removes the first attribute of that name, if there is one.
+  // Removes the first attribute of that name, if there is one. No program of ours
+  // calls this.
   void RemoveAttribute(std::string_view attribute);
 
   // Sets the value of the first attribute of that name, or appends one.
   void SetAttribute(std::string_view attribute, Variant value);
+  void SetAttribute(std::string_view attribute, std::nullptr_t) = delete;
+
+  // Ours, not the domain's:
+
+  zkXMLElement* asElement() override { return this; }
+  bool IsNamed(std::string_view other) const;
+
+  // Whether this is a whole document, of which nothing is written inside another
+  // element.
+  virtual bool IsDocument() const { return false; }
 
   // For the parser, which knows that its nodes are no attributes: appends them
   // to the content and leaves null pointers behind.
-  void takeContent(std::shared_ptr<zkXMLObject>* first, std::shared_ptr<zkXMLObject>* last);
-  void takeContentOf(zkXMLElement& other);
+  void TakeContent(std::shared_ptr<zkXMLObject>* first, std::shared_ptr<zkXMLObject>* last);
+  void TakeContentOf(zkXMLElement& other);
 
  protected:
   // Without a name and not complete.
   zkXMLElement() = default;
 
  private:
-  void readAttributes(std::string_view tag, std::size_t start, bool relaxed);
-
   std::vector<std::shared_ptr<zkXMLObject>> content;
   std::vector<std::shared_ptr<zkXMLAttribute>> att;
   std::string name;
   bool complete = false;
+
+  // Ours, not the domain's:
+
+  void ReadAttributes(std::string_view tag, std::size_t start, bool relaxed);
 };
 
 // `object` as the element that it is; null stays null. Throws
-// `IllegalCastException` for an object of any other class.
+// `IllegalCastException` for an object of any other class. No program of ours calls
+// this.
 std::shared_ptr<zkXMLElement> CastToXMLElement(const std::shared_ptr<zkXMLObject>& object);
 
 }  // namespace quill::markup

@@ -53,11 +53,11 @@ zkXMLElement::zkXMLElement(std::string_view tag, bool relaxed, bool complete_now
     return;
   }
   name = tag.substr(0, white - 1);
-  readAttributes(tag, NonWhiteSpaceInStr(tag, white), relaxed);
+  ReadAttributes(tag, NonWhiteSpaceInStr(tag, white), relaxed);
 }
 
 // `start` is the position of the first attribute, from 1; 0 for none.
-void zkXMLElement::readAttributes(std::string_view tag, std::size_t start, bool relaxed) {
+void zkXMLElement::ReadAttributes(std::string_view tag, std::size_t start, bool relaxed) {
   while (start != 0) {
     const std::size_t equals = tag.find('=', start - 1);
     if (equals == std::string_view::npos) throw zkXMLParsingException();

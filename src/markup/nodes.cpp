@@ -37,13 +37,6 @@ bool IsPlain(std::string_view raw) {
   return std::none_of(raw.begin(), raw.end(), [&](char c) { return special(c) != 0; });
 }
 
-void DecodeEntities(std::string& text) {
-  if (text.find('&') == std::string::npos) return;
-  ReplaceByCharacter(text, "&amp;", '&');
-  ReplaceByCharacter(text, "&lt;", '<');
-  ReplaceByCharacter(text, "&gt;", '>');
-}
-
 void DecodeQuotes(std::string& text) {
   if (text.find('&') == std::string::npos) return;
   ReplaceByCharacter(text, "&apos;", '\'');

@@ -1,12 +1,13 @@
 // The leaves of a markup tree. Each guards its own text: what may not stand
 // inside its construct is changed when the text goes in and, where that can be,
 // changed back when it comes out. So what is stored can always be written as it
-// stands (`serialiser.cpp`).
+// stands (`nodes_serialiser.cpp`).
 //
 // Names and texts are otherwise taken as they come; no operation here fails but
 // through the text converters (`DecodeXMLText`).
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,7 @@ namespace quill::markup {
 class zkXMLAttribute final : public zkXMLObject {
  public:
   zkXMLAttribute(std::string name, Variant value);
+  zkXMLAttribute(std::string name, std::nullptr_t) = delete;
 
   std::string GetXMLString() const override;
   std::string GetName() const override { return name; }
@@ -26,8 +28,11 @@ class zkXMLAttribute final : public zkXMLObject {
   // Decodes every value, also one that never was in a file: a value with
   // "&amp;" in it is kept with "&".
   void SetData(Variant value) override;
+  void SetData(std::nullptr_t) = delete;
   Variant GetData() const override { return data; }
   const std::string& GetValue() const { return data; }
+
+  // Ours, not the domain's:
 
   // Whether its name is that one; the case of letters does not count.
   bool IsNamed(std::string_view other) const;
@@ -50,11 +55,17 @@ class zkXMLTextSection final : public zkXMLObject {
 
   // Takes plain text: no decoding, line ends stay as they are.
   void SetData(Variant value) override;
+  void SetData(std::nullptr_t) = delete;
   void SetName(std::string /*name*/) override {}
 
   // True for an empty section too.
   bool IsWhiteSpace() const;
   std::string GetText() const { return GetData(); }
+
+  // Ours, not the domain's:
+
+  // Whether it is not written: white space, where `UseXMLFormatting` is set.
+  bool IsLeftOut() const;
 
  private:
   std::string data;  // never holds "]]>"
@@ -68,6 +79,7 @@ class zkXMLCDataSection final : public zkXMLObject {
   std::string GetXMLString() const override;
   std::string GetName() const override { return "CDATA"; }
   void SetData(Variant value) override;
+  void SetData(std::nullptr_t) = delete;
   Variant GetData() const override;
   void SetName(std::string /*name*/) override {}
 
@@ -85,6 +97,7 @@ class zkXMLComment final : public zkXMLObject {
   std::string GetName() const override { return "Comment"; }
   Variant GetData() const override { return comment; }
   void SetData(Variant value) override;
+  void SetData(std::nullptr_t) = delete;
   void SetName(std::string /*name*/) override {}
 
  private:
@@ -99,6 +112,7 @@ class zkXMLPInstruction final : public zkXMLObject {
   std::string GetXMLString() const override;
   std::string GetName() const override { return "Processing Instruction"; }
   void SetData(Variant value) override;
+  void SetData(std::nullptr_t) = delete;
   Variant GetData() const override;
   void SetName(std::string /*name*/) override {}
 
@@ -111,6 +125,8 @@ class zkXMLDeclaration final : public zkXMLObject {
  public:
   // Takes what stood between "<!" and ">".
   explicit zkXMLDeclaration(std::string_view text);
+
+  // Takes both as they are. No program of ours calls this.
   zkXMLDeclaration(std::string type_word, std::string text)
       : type(std::move(type_word)), data(std::move(text)) {}
 
@@ -118,6 +134,7 @@ class zkXMLDeclaration final : public zkXMLObject {
   std::string GetName() const override { return type; }
   Variant GetData() const override { return data; }
   void SetData(Variant value) override { data = std::move(value); }
+  void SetData(std::nullptr_t) = delete;
   void SetName(std::string name) override { type = std::move(name); }
 
  private:

@@ -3,6 +3,7 @@
 // tree may be kept, or hung up elsewhere, when its tree is gone.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace quill::markup {
@@ -28,11 +29,17 @@ class zkXMLObject {
   // The object's text in plain form; empty where it has none of its own.
   virtual Variant GetData() const = 0;
 
-  // Replaces the text. No effect where there is none.
+  // Replaces the text. No effect where there is none. A literal 0 would pass for a
+  // null pointer to text, and so here and wherever a value is set that overload is
+  // deleted.
   virtual void SetData(Variant value) = 0;
+  void SetData(std::nullptr_t) = delete;
 
-  // Renames the object. No effect where there is no name.
+  // Renames the object. No effect where there is no name. No program of ours calls
+  // this.
   virtual void SetName(std::string name) = 0;
+
+  // Ours, not the domain's:
 
   // This object if it is an element, else null: the class test of walks, which
   // ask it of every entry.

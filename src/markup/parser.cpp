@@ -46,7 +46,7 @@ std::size_t Parser::Find(std::string_view delimiter, std::size_t from) const {
 
 void Parser::Open(const Frame& frame) {
   open_.push_back(frame);
-  open_.back().n = in_.text.size();
+  open_.back().text_length = in_.text.size();
   open_.back().first_node = nodes_.size();
   if (open_.size() - 1 <= kMaxOpenElements) return;
   // A missing end tag on the way down comes first.
@@ -57,7 +57,7 @@ void Parser::Open(const Frame& frame) {
 // Opens `element` and, in incremental use, the elements that an earlier chunk
 // left open in it: at each level the last entry, if that isn't complete.
 void Parser::Resume(zkXMLElement& element) {
-  Open({.element = &element});
+  Open({.element = &element, .resumed = true});
   if (!in_.incremental) return;
   for (;;) {
     const zkXMLElement& parent = *open_.back().element;
@@ -70,9 +70,10 @@ void Parser::Resume(zkXMLElement& element) {
 
 void Parser::Advance() {
   // A last single character is never looked at.
-  if (in_.position + 1 >= open_.back().n) return EndOfText();
-  // An inner element may have emptied the text, though this one's length of it
-  // says that there is more: that makes a text run, an empty one.
+  if (in_.position + 1 >= open_.back().text_length) return EndOfText();
+  // When an inner element has come to the end of the text, the text is empty and
+  // the position at its start again, but this element still compares with the old
+  // length. So it doesn't notice the end before it has added an empty text section.
   if (in_.text.empty() || in_.text[in_.position] != '<') return TextRun();
   Construct();
 }
@@ -82,7 +83,7 @@ void Parser::TextRun() {
   const bool open_end = next == std::string::npos;
   const std::size_t end = open_end ? in_.text.size() : next;
   nodes_.push_back(std::make_shared<zkXMLTextSection>(Text(in_.position, end)));
-  in_.position = open_end ? open_.back().n : next;
+  in_.position = open_end ? open_.back().text_length : next;
   if (open_end && in_.incremental) throw zkXMLIncrementEnd();
 }
 
@@ -149,12 +150,8 @@ void Parser::Tag() {
 
 void Parser::StartTag(std::size_t begin, std::size_t end) {
   auto child = std::make_shared<zkXMLElement>(Text(begin, end), in_.syntaxRelaxed, false);
-  Frame frame = {.element = child.get(), .tag_begin = begin, .tag_end = end};
+  const Frame frame = {.element = child.get(), .tag_begin = begin, .tag_end = end};
   nodes_.push_back(std::move(child));
-  if (in_.incremental) {
-    const std::string key = "</" + std::string(LookAheadKey(frame));
-    frame.end_tag_ahead = base::InStr(in_.position + 1, in_.text, key) > 0;
-  }
   Open(frame);
 }
 
@@ -168,13 +165,12 @@ void Parser::EndTag(std::size_t begin, std::size_t end) {
 }
 
 void Parser::OwnEndTag(std::size_t begin) {
-  if (Strict()) {
-    // "</>" has the document's own name and ends it.
-    if (open_.size() == 1) {
-      RequireEndTags();
-    } else {
-      RequireUnlessAt(begin + 2, open_.back());
-    }
+  // "</>" has the document's own name and ends it.
+  if (Strict() && open_.size() == 1) RequireEndTags();
+  Frame& frame = open_.back();
+  if (!frame.resumed && !AnswersLookAhead(begin, frame)) {
+    if (Strict()) end_tags_.Require(LookAheadKey(frame), frame.tag_end + 1);
+    frame.ends_chunk = EndsChunk(frame);
   }
   Leave();
 }
@@ -199,6 +195,8 @@ void Parser::ForeignEndTag(std::string_view name) {
 
 void Parser::EndOfText() {
   if (Strict() && !in_.text.empty()) RequireEndTags();
+  // To be asked while there is a text to look into.
+  open_.back().ends_chunk = EndsChunk(open_.back());
   std::string().swap(in_.text);
   in_.position = 0;
   Leave();
@@ -215,31 +213,32 @@ void Parser::Leave() {
 
 // What the parent of an element does when that has been left.
 void Parser::ReturnFrom(const Frame& left) {
-  if (left.resumed) open_.back().n = in_.text.size();
-  if (EndsChunk(left)) throw zkXMLIncrementEnd();
+  if (left.resumed) open_.back().text_length = in_.text.size();
+  if (left.ends_chunk) throw zkXMLIncrementEnd();
 }
 
-// Whether a chunk counts as used up with this element: it had no end tag in
-// sight, so that more of it must be on the way.
-bool Parser::EndsChunk(const Frame& left) const {
-  return in_.incremental && !left.resumed && !left.end_tag_ahead;
+// Whether the chunk counts as used up when this element is left. It does if the
+// chunk holds no end tag for it: the real one must then be in a later chunk, and
+// what closed the element here was another's, or the end of the text.
+bool Parser::EndsChunk(const Frame& frame) {
+  if (!in_.incremental || frame.resumed) return false;
+  if (!look_up_) look_up_.emplace(in_.text);
+  return !look_up_->Follows(LookAheadKey(frame), frame.tag_end + 1);
 }
 
 // Gives up the open elements above index `keeper`, which gets their content.
 // That lies in order already; only what earlier chunks left is to be moved.
 void Parser::GiveUpTo(std::size_t keeper) {
   if (keeper + 1 == open_.size()) return;
-  Frame& parent = open_[keeper];
-  if (open_[keeper + 1].resumed) parent.n = in_.text.size();
   for (std::size_t i = keeper + 1; i < open_.size(); ++i) {
     open_[i].element->SetComplete();
-    if (open_[i].resumed) parent.element->takeContentOf(*open_[i].element);
+    if (open_[i].resumed) open_[keeper].element->TakeContentOf(*open_[i].element);
   }
   open_.resize(keeper + 1);
 }
 
 void Parser::HandOver(const Frame& frame) {
-  frame.element->takeContent(nodes_.data() + frame.first_node, nodes_.data() + nodes_.size());
+  frame.element->TakeContent(nodes_.data() + frame.first_node, nodes_.data() + nodes_.size());
   nodes_.resize(frame.first_node);
 }
 
@@ -250,12 +249,13 @@ std::string_view Parser::LookAheadKey(const Frame& frame) const {
   return tag.substr(0, tag.find(' '));
 }
 
-// Asks for the element's end tag unless the one with its name at `begin` is just
-// what the look-ahead looks for. One with blanks before its ">" may not be.
-void Parser::RequireUnlessAt(std::size_t begin, const Frame& frame) {
+// Whether the end tag at index `end_tag` is what the element's look-ahead looks
+// for. An end tag of the right name may not be, say for blanks before its ">".
+bool Parser::AnswersLookAhead(std::size_t end_tag, const Frame& frame) const {
   const std::string_view key = LookAheadKey(frame);
+  const std::size_t begin = end_tag + 2;
   const std::string_view found = Text(begin, begin + key.size());
-  if (found != key && !base::EqualText(found, key)) end_tags_.Require(key, frame.tag_end + 1);
+  return found == key || base::EqualText(found, key);
 }
 
 // Settles the look-ahead of all elements so far, those still open included.

@@ -10,14 +10,17 @@
 // Elements nest without recursion: the open ones lie on a stack of their own,
 // and so deep input ends in an exception, never in a crash.
 //
-// In strict use a start tag is refused unless its end tag occurs somewhere
-// behind it, not necessarily as its own. An element that its own end tag closes
-// has answered that, so that the text is searched only for the odd ones, once
-// and for all together, before the parse may end well.
+// At a start tag the look-ahead asks whether its end tag occurs somewhere behind
+// it, not necessarily as its own. Strict use refuses the tag if not; incremental
+// use takes it that the rest of the element is still to come. An element that its
+// own end tag closes has answered that, so that the text is searched only for the
+// odd ones: in strict use once and for all together, before the parse may end
+// well, in incremental use when one of them is left.
 #pragma once
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,15 +55,27 @@ class Parser {
   bool parseElementContent(zkXMLElement& element);
 
  private:
-  // An element whose content is being read. The first one is the whole call's.
+  // Ours, not the domain's:
+
+  // An element whose content is being read. The first one on the stack is the
+  // element that the call fills.
   struct Frame {
     zkXMLElement* element = nullptr;
-    std::size_t n = 0;           // length of the text when the element's turn came
-    std::size_t first_node = 0;  // from here on `nodes_` are its content
-    std::size_t tag_begin = 0;   // its start tag's inner text in the input
+
+    // Length of the input's text when reading the content began or went on. It is
+    // compared with the position to see whether the text has ended, and stays as it
+    // is when the end of an inner element empties the text.
+    std::size_t text_length = 0;
+
+    std::size_t first_node = 0;  // from this index on `nodes_` are its content
+
+    // Its start tag's inner text, from index to index behind. None if `resumed`:
+    // then the element was open before the call.
+    std::size_t tag_begin = 0;
     std::size_t tag_end = 0;
-    bool resumed = false;        // left open by the chunk before
-    bool end_tag_ahead = false;  // incremental: the look-ahead found an end tag
+    bool resumed = false;
+
+    bool ends_chunk = false;  // once it is left: see `EndsChunk`
   };
 
   bool Strict() const { return !in_.syntaxRelaxed && !in_.incremental; }
@@ -86,12 +101,12 @@ class Parser {
 
   void Leave();
   void ReturnFrom(const Frame& left);
-  bool EndsChunk(const Frame& left) const;
+  bool EndsChunk(const Frame& frame);
   void GiveUpTo(std::size_t keeper);
   void HandOver(const Frame& frame);
 
   std::string_view LookAheadKey(const Frame& frame) const;
-  void RequireUnlessAt(std::size_t begin, const Frame& frame);
+  bool AnswersLookAhead(std::size_t end_tag, const Frame& frame) const;
   void RequireEndTags();
 
   ParserInput& in_;
@@ -102,7 +117,8 @@ class Parser {
   // its final size.
   std::vector<std::shared_ptr<zkXMLObject>> nodes_;
 
-  EndTagSearch end_tags_;
+  EndTagSearch end_tags_;               // strict: what must occur
+  std::optional<EndTagIndex> look_up_;  // incremental: made when first needed
   bool left_over_ = false;
 };
 

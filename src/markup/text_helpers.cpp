@@ -72,20 +72,14 @@ std::size_t NonWhiteSpaceInStr(std::string_view text, std::size_t start) {
 }
 
 std::string EncodeXMLText(std::string_view text) {
-  std::string escaped = base::ReplaceAll(text, "&", "&amp;");
-  escaped = base::ReplaceAll(escaped, "<", "&lt;");
-  escaped = base::ReplaceAll(escaped, ">", "&gt;");
-  std::string converted = Convert(txtEncoder, escaped);
+  const std::string escaped = EncodeEntities(text);
+  const std::string converted = Convert(txtEncoder, escaped);
   return converted == escaped ? escaped : WithReferences(converted);
 }
 
 std::string DecodeXMLText(std::string text) {
-  if (text.find('&') != std::string::npos) {
-    ReplaceByCharacter(text, "&amp;", '&');
-    ReplaceByCharacter(text, "&lt;", '<');
-    ReplaceByCharacter(text, "&gt;", '>');
-    ReplaceNumericReferences(text);
-  }
+  DecodeEntities(text);
+  ReplaceNumericReferences(text);
   // The encodings differ in the upper half of their tables alone.
   return IsAscii(text) ? text : Convert(txtDecoder, text);
 }
@@ -94,6 +88,19 @@ void SetXMLEncodings(base::TextEncoding file, base::TextEncoding internal) {
   txtDecoder = base::GetTextConverter(file, internal);
   txtEncoder = base::GetTextConverter(internal, file);
   if (!txtDecoder || !txtEncoder) throw base::NilObjectException();
+}
+
+std::string EncodeEntities(std::string_view text) {
+  std::string escaped = base::ReplaceAll(text, "&", "&amp;");
+  escaped = base::ReplaceAll(escaped, "<", "&lt;");
+  return base::ReplaceAll(escaped, ">", "&gt;");
+}
+
+void DecodeEntities(std::string& text) {
+  if (text.find('&') == std::string::npos) return;
+  ReplaceByCharacter(text, "&amp;", '&');
+  ReplaceByCharacter(text, "&lt;", '<');
+  ReplaceByCharacter(text, "&gt;", '>');
 }
 
 void ReplaceByCharacter(std::string& text, std::string_view what, char with) {

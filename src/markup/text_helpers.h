@@ -36,7 +36,7 @@ void SetXMLLineBreakMac();
 // One level of indentation: a tab, unless another text has been set.
 const std::string& zkXMLIndentationCharacter();
 
-// Whether `text` is one white space character.
+// Whether `text` is one white space character. No program of ours calls this.
 bool IsWhiteSpaceChar(std::string_view text);
 
 // Position of the first white space character, of the first other character,
@@ -44,9 +44,10 @@ bool IsWhiteSpaceChar(std::string_view text);
 std::size_t WhiteSpaceInStr(std::string_view text, std::size_t start = 1);
 std::size_t NonWhiteSpaceInStr(std::string_view text, std::size_t start = 1);
 
-// Program text to file text. Only a text with a character outside ASCII gets
-// numeric references, and then for all its control characters too. Throws
-// `NilObjectException` if the machine has no converter for the two encodings.
+// Program text to file text. Only a text that the conversion changes gets numeric
+// references, and then for all its control characters too; a few characters
+// outside ASCII, the pound sign among them, have the same code in both encodings.
+// Throws `NilObjectException` if the machine has no converter for the two.
 std::string EncodeXMLText(std::string_view text);
 
 // File text to program text, one layer of escapes; "&apos;" and "&quot;" stay.
@@ -57,6 +58,13 @@ std::string DecodeXMLText(std::string text);
 // themselves at the first call. Throws `NilObjectException` if there is no
 // converter between the two.
 void SetXMLEncodings(base::TextEncoding file, base::TextEncoding internal);
+
+// Ours, not the domain's:
+
+// The characters "&", "<" and ">" as escapes, and back: one layer, the ampersand
+// first each time, so that "&amp;lt;" comes back as "<".
+std::string EncodeEntities(std::string_view text);
+void DecodeEntities(std::string& text);
 
 // Every `what` in `text` by the character `with`, from left to right and in
 // place; what was put in is not looked at again. `what` must not be empty.

@@ -8,6 +8,7 @@ namespace quill::markup {
 namespace {
 
 using tests::ExpectEach;
+using tests::Quoted;
 
 template <typename Node>
 std::string DataOf(const std::string& text) {
@@ -32,25 +33,58 @@ std::string TextSetTo(const std::string& text) {
   return section.GetText();
 }
 
-TEST(Nodes, GuardTheirText) {
+std::string SplitDeclaration(const std::string& text) {
+  const zkXMLDeclaration declaration(text);
+  return declaration.GetName() + "|" + declaration.GetData();
+}
+
+TEST(Nodes, TakeTheirText) {
   ExpectEach(TextSetTo, {{"a&amp;\r\n]]>y", "a&amp;\r\n]]>y", "not decoded"},
                          {"]]&gt;", "]]>", "can't be told from a guard"}});
   ExpectEach(DataOf<zkXMLCDataSection>, {{"&amp;\xE9\r\n]]]>", "&amp;\xE9\r\n]]]>"}});
   ExpectEach(DataOf<zkXMLComment>,
              {{"a---b", "a-b"}, {"a---", "a"}, {"----", ""}, {"-a-b", "-a-b"}, {"", ""}});
   ExpectEach(DataOf<zkXMLPInstruction>, {{"t ?> ?>", "t ?> ?>"}, {"a?&gt;b ?&gt;", "a?>b ?>"}, {"", ""}});
+  ExpectEach(SplitDeclaration, {{"DOCTYPE \n x y", "DOCTYPE|x y"},
+                                {"FOO ", "FOO|FOO ", "nothing behind the first word: all is the data"},
+                                {" FOO", "|FOO"},
+                                {" ", "| "}});
 }
 
-TEST(Declaration, SplitsItsText) {
-  ExpectEach(
-      [](const std::string& text) {
-        return zkXMLDeclaration(text).GetName() + "|" + DataOf<zkXMLDeclaration>(text);
-      },
-      {{"DOCTYPE \n x y", "DOCTYPE|x y"},
-       {"FOO", "|FOO"},
-       {"FOO ", "FOO|FOO ", "nothing behind the first word: all is the data"},
-       {" FOO", "|FOO"},
-       {" ", "| "}});
+std::string TextWritten(const std::string& plain) {
+  zkXMLTextSection section("");
+  section.SetData(plain);
+  return section.GetXMLString();
+}
+
+std::string ValueWritten(const std::string& plain) { return zkXMLAttribute(" a b ", plain).GetXMLString(); }
+
+// In the program \x8E is an accented e (\xE9 in a file), \xA5 a bullet (none in a file).
+TEST(Nodes, EscapeInTwoLayers) {
+  ExpectEach(TextWritten, {{"<'\">", "&amp;lt;&apos;&quot;&amp;gt;"},
+                           {"a]]>b", "a]]&amp;amp;gt;b", "the guard is text like other text"},
+                           {"a\n\t\r\nb", "a\r\t\r\rb"},
+                           {"\x8E\n\t", "&amp;#233;&amp;#10;&amp;#9;", "no line break beside an accent"},
+                           {"&#65;", "&amp;amp;#65;"}});
+  ExpectEach(ValueWritten, {{"it's ^\"", "ab=\"its \""},
+                            {"a\rb\nc", "ab=\"a b\nc\""},
+                            {"<&>", "ab=\"&amp;lt;&amp;amp;&amp;gt;\""},
+                            {"\xE9\r^", "ab=\"&amp;#233;&amp;#13;\""}});
+}
+
+// Written and read again.
+std::string TextBack(const std::string& plain) { return zkXMLTextSection(TextWritten(plain)).GetText(); }
+
+TEST(TextSection, ComesBackBarAFewLosses) {
+  for (const char* const text :
+       {"a&b<c>d'e\"f", "]]>", "]]]]>>", "&amp;", "&amp;amp;", "&#65;", "&#233; \x8E", " \n\t ",
+        "\x01\x1F\x7F", "\x8E\n\t\x01'\"<&", "--?>-->", "&#", "&;", ""}) {
+    EXPECT_EQ(Quoted(TextBack(text)), Quoted(text));
+  }
+  ExpectEach(TextBack, {{"&lt;&gt;&quot;&apos;", "<>\"'", "entities that the text spells"},
+                        {"a\rb\r\nc", "a\nb\n\nc"},
+                        {"\x8E\r\xA5", "\x8E\n*"},
+                        {std::string("\x8E\0", 2), "\x8E&#0;"}});
 }
 
 }  // namespace
