@@ -11,6 +11,8 @@
 namespace quill::authoring {
 namespace {
 
+// From Unicode to Mac Roman. The converter gives the one direction alone, so that all
+// bytes are asked once. Line feed and tab stand for ends of paragraphs and stops.
 std::map<char32_t, char> MakeTable() {
   std::map<char32_t, char> table;
   for (int byte = 32; byte < 256; ++byte) {
@@ -24,7 +26,8 @@ std::map<char32_t, char> MakeTable() {
   return table;
 }
 
-// Of characters that word processors put in by themselves.
+// What to write for a character that word processors put in by themselves, such as a
+// curly quote; empty if nothing is near.
 std::string InPlaceOf(char32_t character) {
   if (character < 0x80) return "";
   if (character == 0x2026) return "...";
@@ -51,6 +54,7 @@ std::string CannotShow(char32_t character) {
   if (character == base::kMalformed) return "these bytes are no characters: save the manuscript as UTF-8";
   std::array<char, 16> code = {};
   std::snprintf(code.data(), code.size(), "U+%04X", static_cast<unsigned>(character));
+  // A control character would do its work on the author's terminal.
   const std::string shown = character < 0x20 || character == 0x7F ? "" : "\"" + ToUtf8(character) + "\" ";
   const std::string instead = InPlaceOf(character);
   return "a page can't show the character " + shown + "(" + code.data() + ")" +

@@ -1,5 +1,6 @@
 // The characters that reach the page: those that both Mac Roman, in which the
-// reader handles text, and ISO 8859-1, in which files hold it, have.
+// reader handles text, and ISO 8859-1, in which files hold it, have. All others are
+// refused with a word to the author: the reader would replace them in silence.
 #pragma once
 
 #include <optional>

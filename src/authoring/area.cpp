@@ -7,6 +7,7 @@
 
 namespace quill::authoring {
 
+// A file that isn't there is found out beforehand: the store ends the program then.
 std::optional<OpenedFile> OpenFile(const std::string& name) {
   OpenedFile opened;
   opened.name = name;
@@ -23,10 +24,19 @@ std::string CannotOpen(const std::string& name) {
   return name + (content::ContentFile(name) ? " can't be opened as a content file" : " isn't there");
 }
 
+bool IsReadable(const std::string& name) {
+  const auto item = content::ContentFile(name);
+  return item && item->OpenAsBinaryFile();
+}
+
+void ComplainOfFile(const std::string& name, const std::string& sentence) {
+  if (!IsReadable(name)) throw FileComplaint(sentence);
+  throw Complaint(sentence);
+}
+
 OpenedFile RequireFile(const std::string& name) {
-  if (!content::ContentFile(name)) throw FileComplaint(CannotOpen(name) + ".");
   std::optional<OpenedFile> opened = OpenFile(name);
-  if (!opened) throw Complaint(CannotOpen(name) + ".");
+  if (!opened) ComplainOfFile(name, CannotOpen(name) + ".");
   return std::move(*opened);
 }
 

@@ -7,8 +7,11 @@
 namespace quill::authoring {
 namespace {
 
+// What stands for a backslash and that letter.
 char Escaped(char letter) { return letter == 'n' ? '\n' : letter == 't' ? '\t' : letter; }
 
+// Whether `text` begins with an escape. A backslash before any other letter is meant
+// as it stands.
 bool IsEscape(std::string_view text) {
   return text.size() > 1 && text[0] == '\\' && (text[1] == 'n' || text[1] == 't' || text[1] == '\\');
 }

@@ -1,4 +1,5 @@
-// Text as authors type it on a command line, turned into text of the program.
+// Text as authors type it on a command line, turned into text of the program. Not for
+// manuscripts, whose spellings are `authoring/manuscript/`.
 #pragma once
 
 #include <string>

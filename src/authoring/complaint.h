@@ -1,6 +1,9 @@
 // What a command says when it can't do what it was asked for: a sentence for an
 // author, in UTF-8, which names the file and the thing that is wrong. Whoever
-// throws it has written nothing.
+// throws it has written nothing; the tool's `main` catches it.
+//
+// What is wrong with a manuscript is a `Diagnostic`, what a check finds in content a
+// `Finding`: neither keeps a command from doing its work.
 #pragma once
 
 #include <stdexcept>

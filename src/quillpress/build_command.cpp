@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "authoring/complaint.h"
 #include "authoring/manuscript/manuscript_reader.h"
 #include "authoring/press/press.h"
 #include "host/qt/qt_files.h"
@@ -18,13 +19,21 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kGlossaryEnd = "_glossary";
 
-// The manuscript beside another; none if it isn't there.
-std::optional<authoring::Manuscript> ReadNeighbour(const fs::path& manuscript, const std::string& stem) {
-  const auto text =
-      host::ReadWhole(*host::DiskItem(manuscript.parent_path() / (stem + manuscript.extension().string())));
-  return text ? std::optional(authoring::ReadManuscript(*text)) : std::nullopt;
+// The text of a manuscript. Throws `FileComplaint` if it can't be read.
+std::string ReadText(const fs::path& path) {
+  auto text = host::ReadWhole(*host::DiskItem(path));
+  if (!text) throw authoring::FileComplaint(path.string() + ": can't be read");
+  return std::move(*text);
 }
 
+// The manuscript beside another; none if it isn't there. Throws as `ReadText` does.
+std::optional<authoring::Manuscript> ReadNeighbour(const fs::path& manuscript, const std::string& stem) {
+  const fs::path path = manuscript.parent_path() / (stem + manuscript.extension().string());
+  if (!host::DiskItem(path)->Exists()) return std::nullopt;
+  return authoring::ReadManuscript(ReadText(path));
+}
+
+// The press finds what is wrong in its own order; an author reads from the top.
 authoring::Diagnostics ByLine(authoring::Diagnostics diagnostics) {
   std::stable_sort(
       diagnostics.begin(), diagnostics.end(),
@@ -32,7 +41,8 @@ authoring::Diagnostics ByLine(authoring::Diagnostics diagnostics) {
   return diagnostics;
 }
 
-// The bytes of the content file; none, with the diagnostics told, if there are any.
+// The bytes of the content file; none if there are `diagnostics`. Throws as `ReadText`
+// does.
 std::optional<std::string> Typeset(const fs::path& path, const std::string& text,
                                    authoring::Diagnostics& diagnostics) {
   const authoring::Manuscript manuscript = authoring::ReadManuscript(text);
@@ -47,11 +57,13 @@ std::optional<std::string> Typeset(const fs::path& path, const std::string& text
                           diagnostics);
 }
 
+// By whatever paths and links the two lead there; the manuscript would be lost.
 bool IsSameFile(const fs::path& a, const fs::path& b) {
   std::error_code error;
   return fs::equivalent(a, b, error);
 }
 
+// A new file is put in the old one's place once it is whole.
 bool WriteFile(const fs::path& path, const std::string& bytes) {
   const auto file = host::DiskItem(path)->CreateSharedFile();
   if (!file) return false;
@@ -62,23 +74,22 @@ bool WriteFile(const fs::path& path, const std::string& bytes) {
 }  // namespace
 
 ExitStatus Build(const fs::path& manuscript, const fs::path& output, std::ostream& errors) {
-  const auto text = host::ReadWhole(*host::DiskItem(manuscript));
-  if (!text) {
-    errors << manuscript.string() << ": can't be read\n";
+  try {
+    const std::string text = ReadText(manuscript);
+    if (IsSameFile(manuscript, output))
+      throw authoring::FileComplaint(output.string() +
+                                     ": this is the manuscript itself; nothing was written");
+    authoring::Diagnostics diagnostics;
+    const auto bytes = Typeset(manuscript, text, diagnostics);
+    for (const authoring::Diagnostic& diagnostic : ByLine(diagnostics))
+      errors << manuscript.string() << ":" << diagnostic.line << ": " << diagnostic.sentence << "\n";
+    if (!bytes) return kRefused;
+    if (!WriteFile(output, *bytes)) throw authoring::FileComplaint(output.string() + ": can't be written");
+    return kDone;
+  } catch (const authoring::FileComplaint& complaint) {
+    errors << complaint.what() << "\n";
     return kCannotRun;
   }
-  if (IsSameFile(manuscript, output)) {
-    errors << output.string() << ": this is the manuscript itself; nothing was written\n";
-    return kCannotRun;
-  }
-  authoring::Diagnostics diagnostics;
-  const auto bytes = Typeset(manuscript, *text, diagnostics);
-  for (const authoring::Diagnostic& diagnostic : ByLine(diagnostics))
-    errors << manuscript.string() << ":" << diagnostic.line << ": " << diagnostic.sentence << "\n";
-  if (!bytes) return kRefused;
-  if (WriteFile(output, *bytes)) return kDone;
-  errors << output.string() << ": can't be written\n";
-  return kCannotRun;
 }
 
 void AddBuildCommand(CLI::App& app, Action& action) {

@@ -5,7 +5,6 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 #include <memory>
-#include <optional>
 #include <string>
 
 #include "authoring/check/checker.h"
@@ -16,6 +15,7 @@
 namespace quill::quillpress {
 namespace {
 
+// To a terminal: to the line's begin, and clear what stands there.
 constexpr const char* kClearLine = "\r\033[K";
 
 struct CheckArguments {
@@ -38,7 +38,8 @@ class Progress {
   const bool on_terminal_ = isatty(STDERR_FILENO) != 0;
 };
 
-std::optional<authoring::Report> ReportOn(const CheckArguments& arguments) {
+// In a real bundle the folder of the other documents is known by itself.
+authoring::CheckResult Check(const CheckArguments& arguments) {
   RequireFolder(arguments.data);
   if (!arguments.documents.empty()) RequireFolder(arguments.documents);
   const Workplace workplace(BundleView(arguments.data, arguments.documents));
@@ -50,10 +51,10 @@ std::optional<authoring::Report> ReportOn(const CheckArguments& arguments) {
 }
 
 ExitStatus RunCheck(const CheckArguments& arguments) {
-  const std::optional<authoring::Report> report = ReportOn(arguments);
-  if (!report) return kCannotRun;
-  (arguments.format == "json" ? authoring::WriteJson : authoring::WriteText)(*report, std::cout);
-  return report->findings.empty() ? kDone : kRefused;
+  const authoring::CheckResult result = Check(arguments);
+  if (!result.report) return result.unreadable ? kCannotRun : kRefused;
+  (arguments.format == "json" ? authoring::WriteJson : authoring::WriteText)(*result.report, std::cout);
+  return result.report->findings.empty() ? kDone : kRefused;
 }
 
 }  // namespace

@@ -1,8 +1,12 @@
 // The commands of the tool: each function here adds one to the command line, with
-// its arguments and its help, and says what it does when it is chosen.
+// its arguments and its help, and says what it does when it is chosen. What is done
+// is the authoring floors' business; a command knows arguments, files and what to
+// tell on which stream.
 #pragma once
 
 #include <functional>
+
+#include "authoring/complaint.h"
 
 namespace CLI {
 class App;
@@ -10,7 +14,8 @@ class App;
 
 namespace quill::quillpress {
 
-// The exit statuses of the process, for all commands.
+// The exit statuses of the process, for all commands. A script may take 1 for the
+// author's to mend, and 2 for its own.
 enum ExitStatus : int {
   kDone = 0,
   kRefused = 1,    // something was found, or what was given is refused
@@ -19,11 +24,19 @@ enum ExitStatus : int {
 inline constexpr const char* kStatuses =
     "Exit status: 0 done, 1 something found or refused, 2 could not run.";
 
+// Arguments that don't go together, where the command line's own rules can't say so.
+class ArgumentComplaint : public authoring::Complaint {
+ public:
+  using Complaint::Complaint;
+};
+
 // What the chosen command does; returns the exit status. Throws
-// `authoring::Complaint`.
+// `authoring::Complaint`: for `FileComplaint` and `ArgumentComplaint` the status is
+// `kCannotRun`, for all others `kRefused`.
 using Action = std::function<ExitStatus()>;
 
-// Both arguments must outlive the parsing of the command line, which sets `action`.
+// Both arguments must outlive the parsing of the command line, which leaves in `action`
+// what the chosen command does.
 void AddBuildCommand(CLI::App& app, Action& action);
 void AddCheckCommand(CLI::App& app, Action& action);
 void AddShowCommand(CLI::App& app, Action& action);

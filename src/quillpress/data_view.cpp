@@ -14,33 +14,33 @@ namespace {
 namespace fs = std::filesystem;
 using Item = std::shared_ptr<host::FolderItem>;
 
-// A folder that isn't there, some of whose items lie elsewhere. All others are
-// looked for at the place on the disk that the folder stands for.
+// A folder that need not be there, some of whose items lie elsewhere. All others are
+// looked for at `path`, for which the folder stands.
 class ViewFolder final : public host::FolderItem {
  public:
-  ViewFolder(fs::path place, std::map<std::string, Item> items)
-      : place_(std::move(place)), items_(std::move(items)) {}
+  ViewFolder(fs::path path, std::map<std::string, Item> items)
+      : path_(std::move(path)), items_(std::move(items)) {}
 
-  std::string Name() const override { return place_.filename().string(); }
-  std::string Path() const override { return place_.string(); }
+  std::string Name() const override { return path_.filename().string(); }
+  std::string Path() const override { return path_.string(); }
   bool Exists() const override { return true; }
 
   Item Child(const std::string& name) const override {
     const auto found = items_.find(name);
     if (found != items_.end()) return found->second;
-    return host::IsPlainName(name) ? host::DiskItem(place_ / name) : nullptr;
+    return host::IsPlainName(name) ? host::DiskItem(path_ / name) : nullptr;
   }
 
   std::unique_ptr<host::BinaryStream> OpenAsBinaryFile() const override { return nullptr; }
   std::unique_ptr<host::TextOutputStream> Create(Readers /*readers*/) const override { return nullptr; }
 
  private:
-  fs::path place_;
+  fs::path path_;
   std::map<std::string, Item> items_;
 };
 
-Item View(const fs::path& place, std::map<std::string, Item> items) {
-  return std::make_shared<ViewFolder>(place, std::move(items));
+Item View(const fs::path& path, std::map<std::string, Item> items) {
+  return std::make_shared<ViewFolder>(path, std::move(items));
 }
 
 // Without links and without a "/" at its end, so that what lies around it can
@@ -64,6 +64,8 @@ void RequireFolder(const fs::path& path) {
   if (!fs::is_directory(path, error)) throw authoring::FileComplaint(path.string() + " is no folder.");
 }
 
+// The folders around `data` are made up by name: whatever they are called on the disk,
+// the reader's code finds the ones that it looks for.
 Item BundleView(const fs::path& data, const fs::path& documents) {
   const fs::path contents = Plain(data).parent_path();
   const fs::path bundle = contents.parent_path();

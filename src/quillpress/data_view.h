@@ -1,7 +1,7 @@
 // The bundle as the tool makes it up: content files are opened by the reader's
 // own code, which looks for them in the folder `Data` of a bundle beside the
-// executable. The view puts the author's folder in that place, wherever it lies
-// and whatever it is called. It holds nothing; the files stay where they are.
+// executable. The view makes the author's folder that one, wherever it lies and
+// whatever it is called. It holds nothing; the files stay where they are.
 #pragma once
 
 #include <filesystem>
@@ -20,7 +20,7 @@ void RequireFolder(const std::filesystem::path& path);
 
 // The folder that seems to hold the bundle. Inside it "Quillmere.app", "Contents"
 // and "Data" lead to `data`, and "Data" beside the bundle to `documents`; an empty
-// `documents` stands for the place it would have beside the real bundle. Both
+// `documents` stands for the folder beside a real bundle around `data`. Both
 // paths count from the current folder.
 std::shared_ptr<host::FolderItem> BundleView(const std::filesystem::path& data,
                                              const std::filesystem::path& documents = {});

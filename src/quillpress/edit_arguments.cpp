@@ -12,6 +12,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// The file's folder stands for the bundle, so that one file can be changed wherever it
+// lies, without the others.
 ExitStatus Edit(const EditArguments& arguments, const Change& change) {
   const fs::path path = fs::absolute(arguments.file);
   const Workplace workplace(BundleView(path.parent_path()));
@@ -27,7 +29,7 @@ ExitStatus Edit(const EditArguments& arguments, const Change& change) {
 
 std::string PageName(std::int32_t id) { return "page " + std::to_string(id); }
 
-// A command on a file, which the caller gives its further arguments.
+// The arguments live as long as the command's callback, beyond the parsing.
 CLI::App& AddEditCommand(CLI::App& group, const char* name, const char* about,
                          const std::shared_ptr<EditArguments>& arguments, Change change, Action& action) {
   CLI::App& command = *group.add_subcommand(name, about);

@@ -1,6 +1,7 @@
 // What the commands that change a content file share: their arguments, and the
 // way from them to a change. Each opens the file, makes one change and saves; when
-// anything is wrong nothing has been written.
+// anything is wrong nothing has been written. What a change is, and whether it can be
+// made, is `authoring::Editor`'s matter.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -16,15 +17,17 @@
 
 namespace quill::quillpress {
 
-// All that these commands can be given; each offers some of it.
+// All that these commands can be given, as it stands on the command line: text is
+// UTF-8. Each command offers some of it.
 struct EditArguments {
   std::string file;
   std::int32_t page = 0;
-  bool bump = false;
+  bool bump = false;  // raise the version besides
 
   std::optional<std::string> title;
   std::vector<std::string> texts;
 
+  // As in `authoring::Anchor`, `NewLink` and `LinkChange`.
   std::string on;
   std::int32_t nth = 1;
   std::int32_t offset = -1;
@@ -36,7 +39,7 @@ struct EditArguments {
   std::string document;
 };
 
-// Makes a change and gives the words that tell of it.
+// Makes a change and returns the words that tell of it.
 using Change = std::function<std::string(authoring::Editor&, const EditArguments&)>;
 
 // "page 7", as it stands in what a command says.

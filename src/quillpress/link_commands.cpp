@@ -1,8 +1,8 @@
 // `quillpress link`: lays a link on words of a page, changes or deletes one.
 #include <string>
 
+#include "app/mode_table.h"
 #include "authoring/author_text.h"
-#include "authoring/complaint.h"
 #include "content/link_types.h"
 #include "quillpress/edit_arguments.h"
 
@@ -11,17 +11,21 @@ namespace {
 
 namespace link_type = content::link_type;
 
+// The command line excludes --offset beside --on; that one of them must be there it
+// can't say without naming both as missing.
 authoring::Anchor AnchorOf(const EditArguments& arguments) {
   if (arguments.on.empty() && arguments.offset < 0)
-    throw authoring::Complaint("Name the words of the link with --on, or its place with --offset.");
+    throw ArgumentComplaint("Name the words of the link with --on, or its place with --offset.");
   return {authoring::ProgramText(arguments.on), arguments.nth, arguments.offset, arguments.column};
 }
 
+// A length is counted only where the offset was; words bring their own. A document
+// needs no target, which the reader doesn't look at.
 std::string AddLink(authoring::Editor& editor, const EditArguments& arguments) {
   const authoring::Anchor anchor = AnchorOf(arguments);
-  if (anchor.on.empty() && !arguments.length) throw authoring::Complaint("--offset asks for --length.");
+  if (anchor.on.empty() && !arguments.length) throw ArgumentComplaint("--offset asks for --length.");
   if (!arguments.target && arguments.document.empty())
-    throw authoring::Complaint("Name the page that the link leads to with --to, or a document with --file.");
+    throw ArgumentComplaint("Name the page that the link leads to with --to, or a document with --file.");
   authoring::NewLink link;
   link.length = arguments.length.value_or(0);
   link.target = std::to_string(arguments.target.value_or(0));
@@ -62,7 +66,7 @@ void AddAnchor(CLI::App& command, EditArguments& arguments) {
       ->check(CLI::Range(1, 3));
 }
 
-// "0 page, 1 glossary, ...".
+// "0 page, 1 glossary, ...", for the help.
 std::string TypesInWords() {
   std::string words;
   for (const content::LinkType& row : content::kLinkTypes)
@@ -70,11 +74,19 @@ std::string TypesInWords() {
   return words;
 }
 
+// "100 and a page of Bio": how the opening page names the pages of an area.
+std::string PageNamedInWords() {
+  constexpr std::int32_t kNamed = app::ModeNamedByPage(app::kModes);
+  static_assert(kNamed >= 0);
+  const app::Mode& row = app::kModes[kNamed];
+  return std::to_string(*row.targets_from) + " and a page of " + std::string(row.area);
+}
+
 void AddTarget(CLI::App& command, EditArguments& arguments) {
   command
       .add_option("--to", arguments.target,
-                  "where it leads: the number of a page or an entry; on the opening page an area,\n"
-                  "or 100 and a page of Bio")
+                  "where it leads: the number of a page or an entry; on the opening page an area,\nor " +
+                      PageNamedInWords())
       ->type_name("TARGET")
       ->check(CLI::NonNegativeNumber);
   command.add_option("--type", arguments.type, TypesInWords())

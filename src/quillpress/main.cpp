@@ -1,10 +1,9 @@
 // The authors' tool. The reader has no command line; this is where those who write
-// its content work.
+// its content work. Here stands which exit status each kind of failure has.
 #include <CLI/CLI.hpp>
 #include <exception>
 #include <iostream>
 
-#include "authoring/complaint.h"
 #include "quillpress/commands.h"
 
 namespace {
@@ -39,6 +38,8 @@ int main(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? kDone : kCannotRun;
   } catch (const quill::authoring::FileComplaint& complaint) {
+    return Tell(complaint, "", kCannotRun);
+  } catch (const ArgumentComplaint& complaint) {
     return Tell(complaint, "", kCannotRun);
   } catch (const quill::authoring::Complaint& complaint) {
     return Tell(complaint, "", kRefused);

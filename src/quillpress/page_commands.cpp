@@ -25,6 +25,7 @@ std::string UpdatePage(authoring::Editor& editor, const EditArguments& arguments
   return PageName(arguments.page) + " changed";
 }
 
+// Each --text takes one value, so that what follows it isn't taken for another text.
 CLI::Option& AddTexts(CLI::App& command, EditArguments& arguments) {
   CLI::Option& texts =
       *command.add_option("--text", arguments.texts,

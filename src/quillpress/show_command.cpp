@@ -22,6 +22,8 @@ std::string ForTerminal(std::string markup) {
   return markup;
 }
 
+// Any file of markup, in whatever folder: no bundle is needed, only a desktop on which
+// the parser's messages show.
 ExitStatus RunShow(const std::string& file, const std::string& path) {
   const Workplace workplace(nullptr);
   const auto item = host::DiskItem(file);

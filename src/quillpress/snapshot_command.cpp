@@ -21,15 +21,16 @@ namespace {
 struct SnapshotArguments {
   std::string data;
   std::int32_t mode = 0;
-  std::vector<std::int32_t> pages;
+  std::vector<std::int32_t> pages;  // their numbers; empty: the one on which the area opens
   bool dump = false;
   bool offsets = false;
   std::string output;
 };
 
+// Index in the table of modes.
 constexpr auto kLastMode = static_cast<std::int32_t>(app::kModes.size()) - 1;
 
-// "0 opening page, 1 Screen, ...".
+// "the area: 0 opening page, 1 Screen, ...", for the help.
 std::string ModesInWords() {
   std::string words = "the area: ";
   for (std::int32_t mode = 0; mode <= kLastMode; ++mode) {
@@ -40,7 +41,8 @@ std::string ModesInWords() {
   return words;
 }
 
-// Opens the files as the viewer will, so that it is known beforehand that it can.
+// Opens the files as the viewer will, so that it is known beforehand that it can: the
+// opening page's, on which a reader comes up, and the area's.
 void RequirePages(const SnapshotArguments& arguments) {
   const app::Mode& opening = app::kModes[app::kOpeningMode];
   const app::Mode& mode = app::kModes.at(static_cast<std::size_t>(arguments.mode));

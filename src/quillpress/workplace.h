@@ -1,6 +1,7 @@
 // Where a command works: a desktop without a screen, on which the bundle is the
 // author's folder and messages go to standard error. Text measures there what it
-// measures in the reader's window.
+// measures in the reader's window. Each command that needs one owns its own; there is
+// one at a time.
 #pragma once
 
 #include <array>
@@ -18,7 +19,8 @@ class Workplace {
   host::QtDesktop& Desktop() { return desktop_; }
 
  private:
-  // What the toolkit takes for the command line; the real one isn't its business.
+  // What the toolkit takes for the command line, and keeps; the real one isn't its
+  // business.
   int argc_ = 1;
   char name_[11] = "quillpress";
   std::array<char*, 2> argv_ = {name_, nullptr};

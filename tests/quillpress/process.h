@@ -1,6 +1,7 @@
 // Runs the tool as its users do, and the folders that it works on.
 #pragma once
 
+#include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include <cstdlib>
@@ -87,22 +88,20 @@ class Bundle {
     WriteFile(data / file, FileXml(pages));
   }
 
-  // Puts `to` in the place of the first `from`; false if there is none.
-  bool Replace(const std::string& file, const std::string& from, const std::string& to) const {
+  // Replaces the first `from` in a file by `to`.
+  void Replace(const std::string& file, const std::string& from, const std::string& to) const {
     std::string xml = ReadFile(data / file);
-    const std::size_t at = xml.find(from);
-    if (at == std::string::npos) return false;
-    WriteFile(data / file, xml.replace(at, from.size(), to));
-    return true;
+    const std::size_t index = xml.find(from);
+    ASSERT_NE(index, std::string::npos) << from;
+    WriteFile(data / file, xml.replace(index, from.size(), to));
   }
 
-  // Runs the tool in the folder of the content files. `before` is what the shell
-  // does first. The tool writes through pipes, so that a limit on files doesn't
-  // silence it.
-  Outcome Run(const std::vector<std::string>& arguments, const std::string& before = "true") const {
-    std::string command = before + " && exec '" QUILLPRESS "'";
-    for (const std::string& argument : arguments) command += " '" + argument + "'";
-    WriteFile(folder / "run", "cd '" + data.string() + "'; set -o pipefail; { (" + command +
+  // Runs the tool with `arguments`, spelled for the shell, in the folder of the content
+  // files. `before` is what the shell does first. The tool writes through pipes, so
+  // that a limit on files doesn't silence it.
+  Outcome Run(const std::string& arguments, const std::string& before = "true") const {
+    WriteFile(folder / "run", "cd '" + data.string() + "'; set -o pipefail; { (" + before +
+                                  " && exec '" QUILLPRESS "' " + arguments +
                                   ") 2>&1 >&3 3>&- | cat >../err; } 3>&1 | cat >../out");
     const int status = std::system(("bash '" + (folder / "run").string() + "'").c_str());
     return {WEXITSTATUS(status), ReadFile(data / "../out"), ReadFile(data / "../err")};

@@ -17,6 +17,7 @@ using base::TextEncoding;
 constexpr std::string_view kPageTag = "<page";
 constexpr std::string_view kReference = "&#";
 
+// Without a converter the reader leaves a text as it is.
 char Converted(char c, TextEncoding from, TextEncoding to) {
   const auto converter = base::GetTextConverter(from, to);
   return converter ? converter->convert(std::string(1, c))[0] : c;
@@ -25,12 +26,15 @@ char Converted(char c, TextEncoding from, TextEncoding to) {
 // What the reader shows for a character of ISO 8859-1, in Mac Roman.
 char Shown(char c) { return Converted(c, TextEncoding::kIsoLatin1, TextEncoding::kMacRoman); }
 
+// Whether a character doesn't come back from the page as it stood in the file.
+// Beyond ISO 8859-1, where only references lead, it never does.
 bool IsLost(int code) {
   if (code < 0x80) return false;
   const char latin1 = base::Chr(code)[0];
   return code > 0xFF || Converted(Shown(latin1), TextEncoding::kMacRoman, TextEncoding::kIsoLatin1) != latin1;
 }
 
+// Of UTF-8, behind the first byte of a character.
 bool IsContinuation(char c) { return (c & 0xC0) == 0x80; }
 
 // Whether the text has characters outside ASCII, and all of them are UTF-8. Text
@@ -38,10 +42,10 @@ bool IsContinuation(char c) { return (c & 0xC0) == 0x80; }
 bool IsUtf8(std::string_view bytes) {
   bool found = false;
   for (std::size_t i = 0; i < bytes.size(); ++i) {
-    const auto lead = static_cast<unsigned char>(bytes[i]);
-    if (lead < 0x80) continue;
-    const std::size_t more = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
-    if (lead < 0xC2 || lead > 0xF4 || i + more >= bytes.size()) return false;
+    const auto first = static_cast<unsigned char>(bytes[i]);
+    if (first < 0x80) continue;
+    const std::size_t more = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : 1;
+    if (first < 0xC2 || first > 0xF4 || i + more >= bytes.size()) return false;
     for (std::size_t k = 1; k <= more; ++k) {
       if (!IsContinuation(bytes[i + k])) return false;
     }
@@ -51,14 +55,14 @@ bool IsUtf8(std::string_view bytes) {
   return found;
 }
 
-// Whether the start tag of a page stands there.
+// Whether the start tag of a page stands at the head of `bytes`; "<PageID" is none.
 bool IsPageTag(std::string_view bytes) {
   return bytes.size() > kPageTag.size() && base::EqualText(bytes.substr(0, kPageTag.size()), kPageTag) &&
          std::isalnum(static_cast<unsigned char>(bytes[kPageTag.size()])) == 0;
 }
 
 // The code of the character that stands at the head of `bytes`, plain or as a
-// reference.
+// decimal reference. Twelve digits are more than any code has.
 int CodeAt(std::string_view bytes) {
   if (bytes.starts_with(kReference)) return base::IntVal(bytes.substr(kReference.size(), 12));
   return static_cast<unsigned char>(bytes.front());
@@ -74,12 +78,12 @@ std::string ReasonFor(int code) {
 std::vector<LostCharacter> FindLostCharacters(std::string_view bytes) {
   if (IsUtf8(bytes)) return {{-1, "it is written in UTF-8, and the reader takes it for ISO 8859-1"}};
   std::vector<LostCharacter> lost;
-  std::set<std::pair<int, int>> told;
-  int page = -1;
+  std::set<std::pair<int, int>> told;  // page index and code
+  int page_index = -1;
   for (std::size_t i = 0; i < bytes.size(); ++i) {
-    if (IsPageTag(bytes.substr(i))) ++page;
+    if (IsPageTag(bytes.substr(i))) ++page_index;
     const int code = CodeAt(bytes.substr(i));
-    if (IsLost(code) && told.insert({page, code}).second) lost.push_back({page, ReasonFor(code)});
+    if (IsLost(code) && told.insert({page_index, code}).second) lost.push_back({page_index, ReasonFor(code)});
   }
   return lost;
 }

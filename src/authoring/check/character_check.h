@@ -3,7 +3,8 @@
 // them lacks is replaced without a word.
 //
 // It looks at the bytes of the file, since the tree no longer tells what stood
-// there.
+// there. What a page can't show at all is refused before, by the press and the
+// editor; files from elsewhere are why this looks again.
 #pragma once
 
 #include <string>
@@ -13,11 +14,12 @@
 namespace quill::authoring {
 
 struct LostCharacter {
-  int page = -1;  // by its place in the file, from 0; -1 before the first
-  std::string reason;
+  int page_index = -1;  // in the file; -1 before the first page
+  std::string reason;   // Mac Roman, as that of a `Finding`
 };
 
-// Each character once for a page, in the order of the file.
+// Each character once for a page, in the order of the file. One finding, without a
+// page, stands for a file that is all UTF-8. `bytes` is the whole file.
 std::vector<LostCharacter> FindLostCharacters(std::string_view bytes);
 
 }  // namespace quill::authoring

@@ -6,9 +6,11 @@
 
 #include "authoring/area.h"
 #include "authoring/check/character_check.h"
+#include "authoring/check/link_check.h"
 #include "authoring/check/page_check.h"
 #include "authoring/check/reach.h"
 #include "base/numbers.h"
+#include "base/text_converter.h"
 #include "content/link_types.h"
 #include "host/desktop.h"
 
@@ -21,16 +23,21 @@ using To = app::Destination::Kind;
 // leads into it.
 constexpr std::int32_t kFirstPage = 1;
 
-std::optional<std::vector<Area>> OpenAreas(const CheckOptions& options, std::ostream& notes) {
+// All areas, or none if a file can't be opened. It goes on to the last file, so that
+// one run tells of all.
+std::optional<std::vector<Area>> OpenAreas(const CheckOptions& options, std::ostream& notes,
+                                           bool& unreadable) {
   std::vector<Area> areas;
   bool complete = true;
   const auto open = [&](std::string_view name, OpenedFile& file) {
-    options.progress(std::string(name));
-    if (auto opened = OpenFile(std::string(name))) {
+    const std::string file_name(name);
+    options.progress(file_name);
+    if (auto opened = OpenFile(file_name)) {
       file = std::move(*opened);
     } else {
-      notes << CannotOpen(std::string(name)) << ".\n";
+      notes << CannotOpen(file_name) << ".\n";
       complete = false;
+      unreadable = unreadable || !IsReadable(file_name);
     }
   };
   for (const app::Mode& mode : options.modes) {
@@ -43,21 +50,23 @@ std::optional<std::vector<Area>> OpenAreas(const CheckOptions& options, std::ost
   return areas;
 }
 
-Location LocationOf(const OpenedFile& file, std::size_t page) {
-  Location location;
-  location.file = file.name;
-  location.page = static_cast<std::int32_t>(page);
-  const auto found = file.document->GetPageByOffset(location.page);
-  location.title = found ? found->GetTitle() : "";
-  return location;
-}
-
 Location LocationOf(const OpenedFile& file) {
   Location location;
   location.file = file.name;
   return location;
 }
 
+// Bytes of a file may hold page tags where the document has no page, as in a comment.
+Location LocationOf(const OpenedFile& file, std::size_t page_index) {
+  Location location = LocationOf(file);
+  location.page_index = static_cast<std::int32_t>(page_index);
+  const auto page = file.document->GetPageByOffset(location.page_index);
+  location.title = page ? page->GetTitle() : "";
+  return location;
+}
+
+// The check of all areas. It needs them all open at a time: links of the opening page
+// lead into the others.
 class Checker {
  public:
   Checker(const std::vector<Area>& areas, const CheckOptions& options, std::ostream& notes)
@@ -74,7 +83,7 @@ class Checker {
   void CheckGlossary(const Area& area);
   void CheckFile(const OpenedFile& file);
 
-  void CheckLinks(const Area& area, std::size_t page, AreaSummary& summary);
+  void CheckLinks(const Area& area, std::size_t page_index, AreaSummary& summary);
   void CheckDestination(const Area& area, const app::Destination& destination, const content::Link& link,
                         const Location& location);
   void CheckPageNumber(const OpenedFile& file, std::int32_t number, const Location& location);
@@ -82,15 +91,14 @@ class Checker {
 
   std::int32_t CheckReach(const Area& area);
   PageIndices WaysInto(const Area& area) const;
-  std::vector<std::int32_t> PagesNamedByOpening(std::int32_t mode) const;
 
   const std::vector<Area>& areas_;
   const CheckOptions& options_;
   std::ostream& notes_;
   host::FontMetrics& metrics_;
-  Findings file_findings_;
+  Findings file_findings_;  // of the file under way
   Report report_;
-  int documents_passed_over_ = 0;
+  int documents_passed_over_ = 0;  // links to them
 };
 
 Report Checker::Run() {
@@ -116,7 +124,8 @@ void Checker::Add(FindingKind kind, Location location, std::string reason) {
 // Puts the findings of a file into the order of its pages and links.
 void Checker::EndFile() {
   std::stable_sort(file_findings_.begin(), file_findings_.end(), [](const Finding& a, const Finding& b) {
-    return std::tie(a.location.page, a.location.link) < std::tie(b.location.page, b.location.link);
+    return std::tie(a.location.page_index, a.location.link_number) <
+           std::tie(b.location.page_index, b.location.link_number);
   });
   std::move(file_findings_.begin(), file_findings_.end(), std::back_inserter(report_.findings));
   file_findings_.clear();
@@ -155,7 +164,8 @@ void Checker::CheckGlossary(const Area& area) {
   EndFile();
 }
 
-// What holds for files of pages and of entries alike.
+// What holds for files of pages and of entries alike: an id is its page's index,
+// since the store takes the one for the other; and no character is lost.
 void Checker::CheckFile(const OpenedFile& file) {
   const auto pages = PagesOf(*file.document);
   for (std::size_t i = 0; i < pages.size(); ++i) {
@@ -171,12 +181,13 @@ void Checker::CheckFile(const OpenedFile& file) {
   }
   for (LostCharacter& lost : FindLostCharacters(file.bytes)) {
     Add(FindingKind::kCharacter,
-        lost.page < 0 ? LocationOf(file) : LocationOf(file, static_cast<std::size_t>(lost.page)),
+        lost.page_index < 0 ? LocationOf(file) : LocationOf(file, static_cast<std::size_t>(lost.page_index)),
         std::move(lost.reason));
   }
 }
 
-// Runs of styled words and plain buttons are no links to anybody.
+// Runs of styled words and plain buttons lead nowhere on purpose, and don't count as
+// links.
 void Checker::CheckLinks(const Area& area, std::size_t page_index, AreaSummary& summary) {
   const content::Page& page = *area.pages.document->GetPageByOffset(static_cast<std::int32_t>(page_index));
   const std::vector<PageWord> words = WordsOf(page, metrics_);
@@ -193,6 +204,8 @@ void Checker::CheckLinks(const Area& area, std::size_t page_index, AreaSummary& 
   }
 }
 
+// Whether what a link leads to is there. A target is looked up by its number, so that
+// one that is no number comes first: it would count as 0.
 void Checker::CheckDestination(const Area& area, const app::Destination& destination,
                                const content::Link& link, const Location& location) {
   if (destination.kind == To::kDocument) return CheckDocument(area, destination.name, location);
@@ -215,9 +228,11 @@ void Checker::CheckDestination(const Area& area, const app::Destination& destina
 void Checker::CheckPageNumber(const OpenedFile& file, std::int32_t number, const Location& location) {
   if (IndexOfPage(*file.document, number)) return;
   Add(FindingKind::kTarget, location,
-      "it leads to page " + base::Str(number) + " of " + file.name + ", which there isn't");
+      "it leads to page " + base::Str(number) + " of " + base::Utf8ToMacRoman(file.name) +
+          ", which there isn't");
 }
 
+// A document outside the bundle can't be missed where its folder isn't known.
 void Checker::CheckDocument(const Area& area, const std::string& name, const Location& location) {
   const content::DocumentPlace place = ModeOf(area).documents;
   if (name.empty()) {
@@ -247,7 +262,8 @@ std::int32_t Checker::CheckReach(const Area& area) {
   return clicks.empty() ? 0 : std::max(0, *std::max_element(clicks.begin(), clicks.end()));
 }
 
-// The pages on which an area may open.
+// The pages on which an area may open: its row's first page, or all those that links
+// of the opening page choose.
 PageIndices Checker::WaysInto(const Area& area) const {
   PageIndices ways;
   const auto add = [&](std::int32_t number) {
@@ -257,30 +273,19 @@ PageIndices Checker::WaysInto(const Area& area) const {
     add(*first);
     return ways;
   }
-  for (const std::int32_t number : PagesNamedByOpening(area.mode)) add(number);
+  const content::Document& opening = *areas_.at(app::kOpeningMode).pages.document;
+  for (const std::int32_t number : PagesEntered(opening, options_.modes, area.mode)) add(number);
   if (ways.empty()) add(kFirstPage);
   return ways;
 }
 
-// A link to the area itself opens it on the page on show, which is page 0.
-std::vector<std::int32_t> Checker::PagesNamedByOpening(std::int32_t mode) const {
-  std::vector<std::int32_t> numbers;
-  for (const auto& page : PagesOf(*areas_.at(app::kOpeningMode).pages.document)) {
-    for (const auto& link : LinksOf(*page)) {
-      const app::Destination destination = PushedDestination(options_.modes, app::kOpeningMode, *link);
-      if (destination.kind == To::kMode && destination.mode == mode)
-        numbers.push_back(destination.page.value_or(0));
-    }
-  }
-  return numbers;
-}
-
 }  // namespace
 
-std::optional<Report> Check(const CheckOptions& options, std::ostream& notes) {
-  const auto areas = OpenAreas(options, notes);
-  if (!areas) return std::nullopt;
-  return Checker(*areas, options, notes).Run();
+CheckResult Check(const CheckOptions& options, std::ostream& notes) {
+  CheckResult result;
+  if (const auto areas = OpenAreas(options, notes, result.unreadable))
+    result.report = Checker(*areas, options, notes).Run();
+  return result;
 }
 
 }  // namespace quill::authoring

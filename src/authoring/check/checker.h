@@ -1,5 +1,6 @@
 // The check of a whole bundle: opens every area's pair of files as the reader
-// does, and tells what a reader would stumble over. It changes nothing.
+// does, and tells what a reader would stumble over. It changes nothing, and knows of
+// an area what its row of the table of modes says.
 #pragma once
 
 #include <functional>
@@ -23,8 +24,13 @@ struct CheckOptions {
   std::function<void(const std::string& file)> progress = [](const std::string&) {};
 };
 
-// Checks the bundle of the current desktop. Without a value if not every file can
-// be opened; `notes` then has a sentence for each.
-std::optional<Report> Check(const CheckOptions& options, std::ostream& notes);
+struct CheckResult {
+  std::optional<Report> report;  // none if not every file can be opened
+  bool unreadable = false;       // a file isn't there or can't be read; the others hold no content
+};
+
+// Checks the bundle of the current desktop. `notes`, UTF-8, gets a sentence for each
+// file that can't be opened, and one if links were passed over.
+CheckResult Check(const CheckOptions& options, std::ostream& notes);
 
 }  // namespace quill::authoring

@@ -10,7 +10,8 @@ namespace {
 
 bool IsControl(char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }
 
-// For a line of its own: what would break it is a blank.
+// Program text as UTF-8 on one line: line feeds and tabs of a page, which would break
+// it, become blanks.
 std::string OneLine(std::string text) {
   std::replace_if(text.begin(), text.end(), IsControl, ' ');
   return base::MacRomanToUtf8(text);
@@ -18,10 +19,10 @@ std::string OneLine(std::string text) {
 
 std::string LineOf(const Location& location) {
   std::string line = location.file;
-  if (location.page < 0) return line;
-  line += ": page " + std::to_string(location.page) + " \"" + OneLine(location.title) + "\"";
+  if (location.page_index < 0) return line;
+  line += ": page " + std::to_string(location.page_index) + " \"" + OneLine(location.title) + "\"";
   if (location.column > 0) line += ", column " + std::to_string(location.column);
-  if (location.link > 0) line += ", link " + std::to_string(location.link);
+  if (location.link_number > 0) line += ", link " + std::to_string(location.link_number);
   if (!location.words.empty()) line += " \"" + OneLine(location.words) + "\"";
   return line;
 }
@@ -30,9 +31,10 @@ std::string Counted(std::int32_t count, const std::string& noun) {
   return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
 
-std::string JsonText(const std::string& mac_roman) {
+// `utf8` as a string of JSON.
+std::string JsonString(std::string_view utf8) {
   std::string json = "\"";
-  for (const char c : base::MacRomanToUtf8(mac_roman)) {
+  for (const char c : utf8) {
     if (c == '"' || c == '\\') {
       json += {'\\', c};
     } else if (IsControl(c)) {
@@ -46,39 +48,43 @@ std::string JsonText(const std::string& mac_roman) {
   return json + "\"";
 }
 
+std::string JsonText(std::string_view mac_roman) { return JsonString(base::MacRomanToUtf8(mac_roman)); }
+
 std::string Member(const char* name, const std::string& json) {
   return std::string("\"") + name + "\": " + json;
 }
 
 std::string Member(const char* name, std::int32_t number) { return Member(name, std::to_string(number)); }
 
+// Parts of the location that aren't given are left out.
 std::string JsonOf(const Finding& finding) {
   const Location& location = finding.location;
-  std::string json = "{" + Member("kind", JsonText(std::string(NameOf(finding.kind)))) + ", " +
-                     Member("file", JsonText(location.file));
-  if (location.page >= 0)
-    json += ", " + Member("page", location.page) + ", " + Member("title", JsonText(location.title));
+  std::string json = "{" + Member("kind", JsonString(NameOf(finding.kind))) + ", " +
+                     Member("file", JsonString(location.file));
+  if (location.page_index >= 0)
+    json += ", " + Member("page", location.page_index) + ", " + Member("title", JsonText(location.title));
   if (location.column > 0) json += ", " + Member("column", location.column);
-  if (location.link > 0) json += ", " + Member("link", location.link);
+  if (location.link_number > 0) json += ", " + Member("link", location.link_number);
   if (!location.words.empty()) json += ", " + Member("words", JsonText(location.words));
   return json + ", " + Member("reason", JsonText(finding.reason)) + "}";
 }
 
 std::string JsonOf(const AreaSummary& area) {
-  return "{" + Member("area", JsonText(area.area)) + ", " + Member("file", JsonText(area.file)) + ", " +
+  return "{" + Member("area", JsonString(area.area)) + ", " + Member("file", JsonString(area.file)) + ", " +
          Member("pages", area.pages) + ", " + Member("words", area.words) + ", " +
          Member("links", area.links) + ", " + Member("clicks", area.clicks) + "}";
 }
 
-template <typename Entries>
-void WriteArray(const char* name, const Entries& entries, std::ostream& out) {
+// An item a line, so that two reports can be compared line by line.
+template <typename Items>
+void WriteArray(const char* name, const Items& items, std::ostream& out) {
   out << "  \"" << name << "\": [";
   const char* separator = "\n    ";
-  for (const auto& entry : entries) {
-    out << separator << JsonOf(entry);
+  for (const auto& item : items) {
+    out << separator << JsonOf(item);
     separator = ",\n    ";
   }
-  out << (entries.empty() ? "]" : "\n  ]");
+  out << (items.empty() ? "]" : "\n  ]");
 }
 
 }  // namespace

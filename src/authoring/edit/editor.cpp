@@ -7,7 +7,6 @@
 #include "authoring/alphabet.h"
 #include "authoring/complaint.h"
 #include "base/numbers.h"
-#include "content/bundle.h"
 #include "host/desktop.h"
 
 namespace quill::authoring {
@@ -15,13 +14,14 @@ namespace {
 
 using markup::zkXMLElement;
 
+// The text of a child, as it stands in the file; empty if there is none.
 std::string TextOf(const zkXMLElement& parent, const char* name) {
   const auto element = parent.GetElement(name);
   const auto section = element ? element->GetTextSection() : nullptr;
   return section ? section->GetText() : std::string();
 }
 
-// The store sets texts that are there and passes over others: a child that is
+// The store replaces texts that are there and passes over others: a child that is
 // missing, or has nothing inside, as an empty title of a file has. Such a child is
 // given an empty text.
 void GiveText(zkXMLElement& parent, const char* name, std::int32_t number = 1) {
@@ -33,6 +33,7 @@ void GiveText(zkXMLElement& parent, const char* name, std::int32_t number = 1) {
   if (!element->GetTextSection()) element->AddObject(std::make_shared<markup::zkXMLTextSection>(""));
 }
 
+// As the loader takes it.
 std::int32_t ColumnOf(const zkXMLElement& link) {
   const auto attribute = link.GetAttribute("Column");
   return attribute ? base::IntVal(attribute->GetValue()) : 1;
@@ -42,13 +43,14 @@ std::vector<PageWord> Words(const content::Page& page) {
   return WordsOf(page, host::Desktop::Current().Metrics());
 }
 
-std::string Placed(const Anchor& anchor) {
+// An anchor in the words of a complaint.
+std::string NameOf(const Anchor& anchor) {
   if (!anchor.on.empty()) return "the words " + Quoted(anchor.on);
   return "offset " + base::Str(anchor.offset) + " of column " + base::Str(anchor.column);
 }
 
 // An offset without a column is one of the first.
-Anchor Complete(Anchor anchor) {
+Anchor WithColumn(Anchor anchor) {
   if (anchor.on.empty() && anchor.column == 0) anchor.column = 1;
   return anchor;
 }
@@ -57,10 +59,8 @@ Anchor Complete(Anchor anchor) {
 
 Editor::Editor(std::filesystem::path path) : path_(std::move(path)) {
   const std::string name = path_.filename().string();
-  const std::string sentence = path_.string() + " can't be opened as a content file.";
-  if (!content::ContentFile(name)) throw FileComplaint(sentence);
   auto opened = OpenFile(name);
-  if (!opened) throw Complaint(sentence);
+  if (!opened) ComplainOfFile(name, path_.string() + " can't be opened as a content file.");
   file_ = std::move(*opened);
 }
 
@@ -70,6 +70,8 @@ void Editor::ComplainOf(std::int32_t id, const std::string& what) const {
   Complain("page " + base::Str(id) + ": " + what);
 }
 
+// The store finds a page by its id's number taken for an index, and would change
+// another where the two differ.
 const content::Page& Editor::PageOf(std::int32_t id) const {
   const auto page = file_.document->GetPageByOffset(id);
   if (!page) Complain("there is no page " + base::Str(id) + ".");
@@ -85,6 +87,7 @@ std::shared_ptr<zkXMLElement> Editor::LinksOf(std::int32_t id) const {
   return links;
 }
 
+// A new page's id is the one after `LastPageID`, and must be its index.
 std::int32_t Editor::AddPage(const std::string& title, const content::TextList& texts) {
   content::zkXMLFileClass& file = *file_.file;
   if (file.GetLastPageID() == std::numeric_limits<std::int32_t>::max())
@@ -118,10 +121,10 @@ const PageWord& Editor::WordFor(std::int32_t id, const std::vector<PageWord>& wo
                                 const Anchor& anchor) const {
   const PageWord* const word = anchor.on.empty() ? WordAt(words, anchor.column, anchor.offset)
                                                  : FindPhrase(words, anchor.on, anchor.nth, anchor.column);
-  if (word == nullptr && anchor.on.empty()) ComplainOf(id, "no word starts at " + Placed(anchor) + ".");
+  if (word == nullptr && anchor.on.empty()) ComplainOf(id, "no word starts at " + NameOf(anchor) + ".");
   if (word == nullptr && anchor.nth > 1)
-    ComplainOf(id, Placed(anchor) + " don't stand there " + base::Str(anchor.nth) + " times.");
-  if (word == nullptr) ComplainOf(id, Placed(anchor) + " don't stand there.");
+    ComplainOf(id, NameOf(anchor) + " don't stand there " + base::Str(anchor.nth) + " times.");
+  if (word == nullptr) ComplainOf(id, NameOf(anchor) + " don't stand there.");
   return *word;
 }
 
@@ -140,27 +143,30 @@ std::int32_t Editor::LinkNumber(std::int32_t id, std::int32_t column, std::int32
 // one is found.
 std::int32_t Editor::LinkNumber(std::int32_t id, const Anchor& anchor) const {
   const std::vector<PageWord> words = Words(PageOf(id));
-  Anchor at = Complete(anchor);
-  if (!at.on.empty()) {
-    const PageWord& word = WordFor(id, words, at);
-    at.column = word.column;
-    at.offset = word.offset;
+  Anchor start = WithColumn(anchor);
+  if (!start.on.empty()) {
+    const PageWord& word = WordFor(id, words, start);
+    start.column = word.column;
+    start.offset = word.offset;
   }
-  const std::int32_t number = LinkNumber(id, at.column, at.offset);
-  if (number == 0) ComplainOf(id, "no link starts at " + Placed(at) + ".");
+  const std::int32_t number = LinkNumber(id, start.column, start.offset);
+  if (number == 0) ComplainOf(id, "no link starts at " + NameOf(start) + ".");
   return number;
 }
 
+// Of two links at one word the reader shows the first alone, so that a second is
+// refused. The file's name goes in by a second step: a new text is taken for file
+// text, and a name with "&" would be decoded.
 void Editor::AddLink(std::int32_t id, const Anchor& anchor, const NewLink& link) {
   const std::vector<PageWord> words = Words(PageOf(id));
-  const Anchor at = Complete(anchor);
-  const PageWord& word = WordFor(id, words, at);
-  const std::size_t length = at.on.empty() ? static_cast<std::size_t>(link.length) : at.on.size();
+  const Anchor start = WithColumn(anchor);
+  const PageWord& word = WordFor(id, words, start);
+  const std::size_t length = start.on.empty() ? static_cast<std::size_t>(link.length) : start.on.size();
   if (length > word.rest.size())
     ComplainOf(id, "the paragraph ends " + std::to_string(word.rest.size()) + " characters behind " +
-                       Placed(at) + ", before a length of " + std::to_string(length) + ".");
+                       NameOf(start) + ", before a length of " + std::to_string(length) + ".");
   if (LinkNumber(id, word.column, word.offset) > 0)
-    ComplainOf(id, "a link starts at " + Placed(at) + " already; \"link update\" changes it.");
+    ComplainOf(id, "a link starts at " + NameOf(start) + " already; \"link update\" changes it.");
   const std::string page_id = base::Str(id);
   const std::string offset = base::Str(word.offset);
   if (link.file_name.empty()) {
@@ -173,6 +179,8 @@ void Editor::AddLink(std::int32_t id, const Anchor& anchor, const NewLink& link)
   added->GetElement("Filename")->GetTextSection()->SetData(link.file_name);
 }
 
+// A link keeps its column, which the store can't change. Words of its own are no
+// obstacle: it may be moved to where it starts already.
 void Editor::UpdateLink(std::int32_t id, const Anchor& anchor, const LinkChange& change) {
   const std::int32_t number = LinkNumber(id, anchor);
   zkXMLElement& link = *LinksOf(id)->GetElement("Link", number);
@@ -185,7 +193,7 @@ void Editor::UpdateLink(std::int32_t id, const Anchor& anchor, const LinkChange&
     const std::vector<PageWord> words = Words(PageOf(id));
     const PageWord& word = WordFor(id, words, to);
     const std::int32_t there = LinkNumber(id, word.column, word.offset);
-    if (there != 0 && there != number) ComplainOf(id, "a link starts at " + Placed(to) + " already.");
+    if (there != 0 && there != number) ComplainOf(id, "a link starts at " + NameOf(to) + " already.");
     offset = base::Str(word.offset);
     length = std::to_string(to.on.size());
   }

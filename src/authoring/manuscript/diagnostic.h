@@ -1,5 +1,6 @@
-// What is wrong with a manuscript: the line it is wrong on, and a sentence for
-// its author.
+// What is wrong with a manuscript: the line it is wrong on, and a sentence for its
+// author. The reader of manuscripts and the press find diagnostics; telling them,
+// with the file's name before them, is the command's business.
 #pragma once
 
 #include <string>

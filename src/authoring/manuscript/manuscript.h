@@ -1,6 +1,10 @@
 // A manuscript as it was read: pages, columns and the runs of words that lead
 // somewhere or are styled. Names of other pages are kept as names; the press finds
-// what they stand for. Plain values; `manuscript_reader.h` makes them.
+// what they stand for. Plain values; `manuscript_reader.h` makes them, and whoever
+// called it owns them.
+//
+// Nothing here counts as the layout does: a run names its first word by its index,
+// and only the press asks the layout for that word's offset.
 //
 // Text is in the program's encoding, Mac Roman, and in the form that the reader
 // lays out: paragraphs parted by line feeds, words by single blanks, an indent as
@@ -22,7 +26,7 @@ struct Target {
 
   Kind kind = Kind::kNone;
   std::int32_t type = 0;  // the link's type; of a styled run its style
-  std::string name;       // of page, entry or life; of the file; the mode's number
+  std::string name;       // of page, entry or life; of the file; the mode's number; UTF-8
 };
 
 // Words that belong together, in one paragraph.
@@ -30,7 +34,7 @@ struct Run {
   std::size_t word = 0;     // index of its first word in the column
   std::int32_t length = 0;  // characters to its end, the blanks between counted
   Target target;
-  int line = 1;
+  int line = 1;  // of the manuscript, for what is wrong with its target
 };
 
 struct Column {

@@ -19,13 +19,16 @@ namespace link_type = content::link_type;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+// The names that authors give to pages. They are no part of the reader's text, so
+// that they may be kept to what is the same in every encoding.
 bool IsName(std::string_view text) {
   return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || IsDigit(c) || c == '-' || c == '_';
   });
 }
 
-// A number with at most one decimal place, which is all that the reader counts.
+// A number with at most one decimal place: an edit raises it by 0.1, and more
+// places would be lost. Three digits are what the content file's format has.
 bool IsVersion(std::string_view text) {
   const std::size_t whole = std::min(text.find('.'), text.size());
   const std::string_view tenths = text.substr(whole);
@@ -33,7 +36,8 @@ bool IsVersion(std::string_view text) {
          (tenths.empty() || (tenths.size() == 2 && IsDigit(tenths[1])));
 }
 
-// UTF-8 to program text; none, with a diagnostic, if a character can't be shown.
+// `text`, UTF-8, as program text; none, with a diagnostic, if a character can't be
+// shown.
 std::optional<std::string> Convert(std::string_view text, int line, Diagnostics& diagnostics) {
   std::string converted;
   while (!text.empty()) {
@@ -65,6 +69,8 @@ void ReadSetting(std::string_view key, std::string_view value, int line, Manuscr
   }
 }
 
+// How a link's address begins, by kind of target. The opening page goes by the
+// target alone; its links have the type whose white reads best on its ground.
 struct Prefix {
   std::string_view text;
   Target::Kind kind;
@@ -80,6 +86,14 @@ constexpr std::array kPrefixes = {
     Prefix{"bio:", Target::Kind::kLife, link_type::kPlain},
 };
 
+// The number of a mode, which a link of the opening page chooses by it. One number
+// has one spelling: without zeros before it.
+bool IsModeNumber(std::string_view text) {
+  const std::int32_t mode = base::IntVal(text);
+  return text == base::Str(mode) && app::IsChosenByNumber(app::kModes, mode);
+}
+
+// Whether `name` may stand behind the prefix of that kind.
 bool IsNameOf(Target::Kind kind, std::string_view name) {
   switch (kind) {
     case Target::Kind::kPage:
@@ -87,7 +101,7 @@ bool IsNameOf(Target::Kind kind, std::string_view name) {
     case Target::Kind::kLife:
       return IsName(name);
     case Target::Kind::kMode:
-      return name.size() == 1 && IsDigit(name[0]) && app::IsChosenByNumber(app::kModes, base::IntVal(name));
+      return IsModeNumber(name);
     case Target::Kind::kDocument:
       return host::IsPlainName(std::string(name));
     case Target::Kind::kNotes:
@@ -95,6 +109,34 @@ bool IsNameOf(Target::Kind kind, std::string_view name) {
       return name.empty();
   }
   return false;
+}
+
+// "mode:1 to mode:4": the modes that the opening page chooses by number follow each
+// other in the table.
+std::string ModeSpellings(const std::string& prefix) {
+  std::vector<std::int32_t> modes;
+  for (std::int32_t mode = 0; app::IsMode(app::kModes, mode); ++mode) {
+    if (app::IsChosenByNumber(app::kModes, mode)) modes.push_back(mode);
+  }
+  return prefix + base::Str(modes.front()) + " to " + prefix + base::Str(modes.back());
+}
+
+std::string SpellingOf(const Prefix& prefix) {
+  const std::string text(prefix.text);
+  switch (prefix.kind) {
+    case Target::Kind::kPage:
+    case Target::Kind::kEntry:
+    case Target::Kind::kLife:
+      return text + "name";
+    case Target::Kind::kDocument:
+      return text + "file";
+    case Target::Kind::kMode:
+      return ModeSpellings(text);
+    case Target::Kind::kNotes:
+    case Target::Kind::kNone:
+      return text;
+  }
+  return text;
 }
 
 }  // namespace
@@ -110,6 +152,8 @@ void ReadHead(std::string_view comment, int line, Manuscript& manuscript) {
   }
 }
 
+// A title keeps no gap wider than a blank: CommonMark leaves those of the source in
+// it, and the viewer would show them.
 bool SplitTitle(const std::vector<Letter>& letters, std::string& title, std::string& name) {
   std::string text;
   for (const Letter& letter : letters) {
@@ -134,6 +178,15 @@ std::optional<Target> ReadTarget(std::string_view address) {
     return Target{prefix.kind, prefix.type, std::string(name)};
   }
   return std::nullopt;
+}
+
+std::string TargetSpellings() {
+  std::string spellings;
+  for (const Prefix& prefix : kPrefixes) {
+    const bool last = &prefix == &kPrefixes.back();
+    spellings += (spellings.empty() ? "" : last ? ", or " : ", ") + SpellingOf(prefix);
+  }
+  return spellings;
 }
 
 std::optional<std::int32_t> StyleOf(bool italic, bool bold, bool underline) {

@@ -1,6 +1,7 @@
 // From the letters of a paragraph to words of a column, with their indents, and
 // to the runs that lie on them. It knows the reader's text, and of the
-// manuscript's spellings the stop `{2}` alone.
+// manuscript's spellings the stop `{2}` alone; links and styles come to it as marks
+// on letters.
 #pragma once
 
 #include <cstdint>
@@ -28,9 +29,10 @@ struct Letter {
   bool verbatim = false;  // taken as it stands: no stop, and no sign of a slip
 };
 
-// Where a paragraph begins. A stop is 25 pixels of the reader's page.
+// Where a paragraph begins, in stops: the steps of 25 pixels by which a tab moves
+// the margin of the reader's page.
 struct Indent {
-  std::int32_t gutter = 0;  // stops that stand before stop 0 of the column
+  std::int32_t gutter = 0;  // stops to the left of what the author counts as stop 0
   std::int32_t stop = 0;
   std::string number;  // stands one stop before; empty for none
 };
@@ -41,8 +43,8 @@ struct Paragraph {
   Indent indent;
 };
 
-// Appends `paragraph` to `column`. One without words is an empty paragraph,
-// whatever its indent.
+// Appends `paragraph` to `column`. One without words is an empty paragraph, whatever
+// its indent. A run that can't lie on whole words goes to `diagnostics` instead.
 void TypesetParagraph(const Paragraph& paragraph, Column& column, Diagnostics& diagnostics);
 
 }  // namespace quill::authoring

@@ -4,25 +4,22 @@
 // writes no file of the disk.
 //
 // What was pressed is loaded again before it is handed out, so that a file that
-// comes from here holds what its author wrote, to the letter.
+// comes from here holds what its author wrote, to the letter. How a page looks is no
+// matter here: a link that runs past its column is pressed, and the check tells.
 #pragma once
 
 #include <optional>
 #include <string>
 
 #include "authoring/manuscript/manuscript.h"
+#include "authoring/press/neighbours.h"
 
 namespace quill::authoring {
 
-// The manuscripts that links may lead to. Null: there is none.
-struct Neighbours {
-  const Manuscript* glossary = nullptr;
-  const Manuscript* lives = nullptr;
-};
-
-// The content file. None, and then `diagnostics` says why, by line, if a name stands
-// for nothing or a page can't be set; `manuscript` must have been read without
-// diagnostics. Makes the desktop in memory the current one while it works.
+// Returns the bytes of the content file. None, and then `diagnostics` says why, if a
+// name stands for nothing or a page can't be kept; `manuscript` must have been read
+// without diagnostics, and `diagnostics` be empty. Makes the desktop in memory the
+// current one while it works.
 std::optional<std::string> Press(const Manuscript& manuscript, const Neighbours& neighbours,
                                  Diagnostics& diagnostics);
 

@@ -8,7 +8,7 @@
 namespace quill::authoring {
 namespace {
 
-constexpr std::string_view kGoals = "-#gdnmb";
+constexpr std::string_view kKindLetters = "-#gdnmb";
 
 // A line for each page with its columns, text quoted; behind a column its runs, as
 // first word, length, type, kind and name.
@@ -20,7 +20,7 @@ std::string Dump(const Manuscript& manuscript) {
       dump += " | " + tests::Quoted(column.text);
       for (const Run& run : column.runs) {
         dump += " " + std::to_string(run.word) + "+" + base::Str(run.length) + ":" +
-                base::Str(run.target.type) + kGoals[static_cast<std::size_t>(run.target.kind)] +
+                base::Str(run.target.type) + kKindLetters[static_cast<std::size_t>(run.target.kind)] +
                 run.target.name;
       }
     }
@@ -93,10 +93,17 @@ TEST(ManuscriptTest, SaysWhatIsWrongAndWhere) {
       {"a\n\n# A", "1: this stands before the first page"},
       {"<!--\nAuthor: x\n-->\n# A", "2: before the first page a comment sets"},
       {"<!--\n\nVersion: 1.25\n-->\n# A", "3: a version is a number"},
+      {"<!-- Version: 1000 -->\n# A", "1: a version is a number"},
       {"# A {#a}\n# B {#a}", "2: the name \"a\" has been given"},
       {"# A\n\ntext\n---\n", "3: a page has one title", "no empty line before the column's end"},
       {"# A\n---\n---\n---\n", "4: a page has three columns at most"},
-      {"# A\n\na\nb [c](http://d)", "4: a link can't lead to \"http://d\""},
+      {"# A\n\na\nb [c](http://d)",
+       "4: a link can't lead to \"http://d\": write #name, glossary:name, doc:file, notes:, plain:, mode:1 "
+       "to "
+       "mode:4, or bio:name\n"},
+      {"# A\n\n[a](mode:0)", "3: a link can't lead", "the opening page itself"},
+      {"# A\n\n[a](mode:5)", "3: a link can't lead", "Bio, which is entered by page"},
+      {"# A\n\n[a](mode:01)", "3: a link can't lead"},
       {"# A\n\n[c](doc:../d.pdf)", "3: a link can't lead to \"doc:../d.pdf\"", "out of the folder"},
       {"# A\n\na [b\n\nc](#a)", "3: this link is not whole"},
       {"# A\n\na [b](#a).", "3: the link \"b\" doesn't end with a word"},
@@ -105,6 +112,7 @@ TEST(ManuscriptTest, SaysWhatIsWrongAndWhere) {
       {"# A\n\na\n**b\n\nc**", "4: the star at \"**b\" has no partner"},
       {"# A\n\n*a {2} b*", "3: the styled text \"a {2} b\" has a stop in it"},
       {"# A\n\n{3} a {2} b", "3: the stop {2} isn't to the right"},
+      {"# A\n\n{2} a {2} b", "3: the stop {2} isn't to the right"},
       {"# A\n\n<br>\na", "3: of HTML a page knows"},
       {"# A\n\n`\n`\na “b", "5: a page can't show the character \"“\" (U+201C); write \"\n"},
       {"# A\n\n½", "3: a page can't show the character \"½\" (U+00BD)\n", "the program lacks it"},

@@ -1,6 +1,6 @@
 #include "authoring/press/press.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <random>
 
@@ -39,6 +39,7 @@ struct Loaded {
     desktop.files.AddFile("Quillmere.app/Contents/Data/a.xml", xml);
     EXPECT_TRUE(file.Init() && file.GetDocument(document)) << xml;
   }
+  ~Loaded() { EXPECT_THAT(desktop.messages, testing::IsEmpty()); }
 
   host::MemoryDesktop desktop;
   content::zkXMLFileClass file{"a.xml"};
@@ -117,13 +118,16 @@ TEST(PressTest, SaysWhatCantBePressed) {
   tests::ExpectEach(
       PressText,
       {{"# A\n\n[x](#y) [x](glossary:y)\n[z](glossary:first)",
-        "3: the manuscript itself has no page named \"y\"\n3: the glossary beside this manuscript has no "
-        "page "
-        "named \"y\"\n"},
+        "3: the manuscript itself has no page named \"y\"\n"
+        "3: the glossary beside this manuscript has no page named \"y\"\n"},
        {"# A\n\n" + many + "[c](plain:)",
         "64: a page has 61 links and styled runs at most: this is one more\n"},
        {"# A {#a}\n\n[x](mode:1)\n[y](#a)",
         "4: on the opening page, the one with mode: and bio: links, every link leads to an area\n"},
+       {"# A {#a}\n\n[x](notes:) [z](#b)\n[y](#a)\n# B {#b}",
+        "4: where there is a notes: link, the first page can't be linked to: its number is the notes'\n"},
+       {"# A\n\n[x](doc:\xC3\xA9.pdf)",
+        "3: the file name \"\xC3\xA9.pdf\" must do without accents and other signs\n"},
        {"# A\n\na &amp;lt; b",
         "1: a content file can't keep this page's text to the letter: is there something like "
         "&lt; or &#65; spelled out in it?\n"}});
