@@ -17,7 +17,7 @@ namespace quill::app {
 
 class App final : public host::Application {
  public:
-  // Slots of the file name tables. Those behind the last mode stay empty.
+  // Length of the file name tables. What lies behind the last mode stays empty.
   static constexpr std::size_t kSlots = 11;
 
   // What `Init` sets `fontsize` and `fontheightoffset` to.
@@ -29,30 +29,35 @@ class App final : public host::Application {
 
   void Event_Open() override { Init(); }
 
+  // Returns the column (from 1) that field 0 to 5 of a page's text stands in; 0
+  // for any other field. Fields count through the layouts: 0 is the one column, 1
+  // and 2 the two, 3 to 5 the three. No program of ours calls this.
+  static std::int32_t GetColumnFromField(std::int32_t field);
+
+  // Returns the field of column `column` (from 1) in a page of `columns` columns; 0
+  // for a column outside the layout and for a layout that doesn't exist. No
+  // program of ours calls this.
+  static std::int32_t GetFieldFromColumn(std::int32_t column, std::int32_t columns);
+
+  // A place for a breakpoint: the glossary passes it before it draws.
+  void debugmethod() {}
+
   // Fills the file name tables and the settings of text; clears `TestMode`.
   void Init();
 
-  // The column (from 1) that field 0 to 5 of a page's text stands in; 0 for any
-  // other field. Fields count through the layouts: 0 is the one column, 1 and 2
-  // the two, 3 to 5 the three.
-  static std::int32_t GetColumnFromField(std::int32_t field);
+  // Returns the version text from the application's bundle; empty if it holds none.
+  static std::string LongVersion() { return content::BundleVersion(); }
 
-  // The field of column `column` (from 1) in a page of `columns` columns; 0 for
-  // a column outside the layout and for a layout that doesn't exist.
-  static std::int32_t GetFieldFromColumn(std::int32_t column, std::int32_t columns);
+  // Ours, not the domain's:
 
   // The table of modes, and the row of the current one.
   Modes AllModes() const { return modes_; }
   const Mode& CurrentMode() const { return modes_[static_cast<std::size_t>(mode)]; }
 
-  // The version text from the application's bundle; empty if it holds none.
-  static std::string LongVersion() { return content::BundleVersion(); }
-
-  // A place for a breakpoint: the glossary passes it before it draws.
-  void debugmethod() {}
-
   // Announces a step in a message box where `TestMode` is set.
   void Trace(const std::string& step) const;
+
+  // The domain's:
 
   // The documents of the current mode: its pages and its glossary entries. Null
   // until the first load; replaced, never changed, by every later one.
@@ -69,6 +74,7 @@ class App final : public host::Application {
   std::int32_t fontsize = 0;          // points, of page text, glossary and links
   std::int32_t fontheightoffset = 0;  // pixels from a link button's top to its base line
 
+  // Ours, not the domain's:
   Pictures pictures;
 
  private:

@@ -23,7 +23,8 @@ struct Destination {
   std::optional<std::int32_t> page = std::nullopt;  // of that mode, where the link chooses it
 };
 
-// What a button of link type `type` opens on a page of `from`, a row of `modes`.
+// Returns what a button of link type `type` opens on a page of `from`, a row of
+// `modes`.
 // `target` is the link's `LinkToPage`, `file_name` its file, Mac Roman.
 Destination DestinationOf(Modes modes, const Mode& from, std::int32_t type, const std::string& target,
                           const std::string& file_name);

@@ -111,8 +111,8 @@ constexpr bool IsMode(Modes modes, std::int32_t mode) {
   return mode >= 0 && mode < static_cast<std::int32_t>(modes.size());
 }
 
-// The mode whose pages the opening page names one by one (`targets_from`), -1 if
-// there is none.
+// Returns the mode whose pages the opening page names one by one (`targets_from`),
+// -1 if there is none.
 constexpr std::int32_t ModeNamedByPage(Modes modes) {
   for (std::size_t mode = 0; mode < modes.size(); ++mode) {
     if (modes[mode].targets_from) return static_cast<std::int32_t>(mode);

@@ -1,8 +1,11 @@
 // The host's text functions. Text is one byte a character. Positions count
-// from 1, and a search that finds nothing gives 0.
+// from 1, and a search that finds nothing returns 0.
 //
 // Functions that return a `string_view` return a part of their argument: it
 // lives no longer than the text that was passed in.
+//
+// No program of ours calls `Len`, `Left`, `Right`, `Mid`, `Replace`, `Asc`,
+// `CountFields` and `NthField`.
 #pragma once
 
 #include <cstddef>
@@ -17,23 +20,23 @@ bool EqualText(std::string_view a, std::string_view b);
 
 std::size_t Len(std::string_view text);
 
-// The first, the last `count` characters. A count of 0 or less gives the empty
-// text, one above the length the whole.
+// Return the first, the last `count` characters. A count of 0 or less gives the
+// empty text, one above the length the whole.
 std::string_view Left(std::string_view text, std::ptrdiff_t count);
 std::string_view Right(std::string_view text, std::ptrdiff_t count);
 
-// `count` characters from position `start` on, or all of them to the end. A
+// Return `count` characters from position `start` on, or all of them to the end. A
 // start below 1 counts as 1, one behind the end gives the empty text.
 std::string_view Mid(std::string_view text, std::ptrdiff_t start, std::ptrdiff_t count);
 std::string_view Mid(std::string_view text, std::ptrdiff_t start);
 
-// Position of the first `what` at or behind `start` (from 1), 0 if there is
-// none. The case of the letters A to Z does not count. An empty `what` is found
+// Returns the position of the first `what` at or behind `start` (from 1), 0 if there
+// is none. The case of the letters A to Z does not count. An empty `what` is found
 // nowhere.
 std::size_t InStr(std::size_t start, std::string_view text, std::string_view what);
 std::size_t InStr(std::string_view text, std::string_view what);
 
-// `text` without the blanks, tabs, line feeds and carriage returns at its ends.
+// Returns `text` without the blanks, tabs, line feeds and carriage returns at its ends.
 std::string_view Trim(std::string_view text);
 
 // The first, every `what` in `text` by `with`; letter case counts. All are
@@ -48,18 +51,19 @@ std::string ReplaceAll(std::string_view text, std::string_view what, std::string
 std::size_t CountFields(std::string_view text, std::string_view separator);
 std::string_view NthField(std::string_view text, std::string_view separator, std::size_t n);
 
-// All fields at once, for who walks them: one pass instead of one for each.
+// Ours, not the domain's: all fields at once, for who walks them, in one pass
+// instead of one for each.
 std::vector<std::string_view> Fields(std::string_view text, char separator);
 
-// `text` with the letters a to z in upper case.
+// Returns `text` with the letters a to z in upper case. Ours, not the domain's.
 std::string Uppercase(std::string_view text);
 
-// The character of that code as text. Text has one byte a character: a code
+// Returns the character of that code as text. Text has one byte a character: a code
 // above 255 gives the nearest character of ISO 8859-1 where there is an obvious
 // one (curly quotes, dashes), else "?". A code below 0 gives "?" too.
 std::string Chr(int code);
 
-// Code of the first character, 0 to 255; 0 for an empty text.
+// Returns the code of the first character, 0 to 255; 0 for an empty text.
 int Asc(std::string_view text);
 
 }  // namespace quill::base

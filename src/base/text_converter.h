@@ -15,7 +15,7 @@ namespace quill::base {
 
 enum class TextEncoding : std::int32_t { kMacRoman = 0, kIsoLatin1 = 0x201 };
 
-// The encoding with that base value (0 Mac Roman, 513 ISO 8859-1); variant and
+// Returns the encoding with that base value (0 Mac Roman, 513 ISO 8859-1); variant and
 // format have no members but 0. Throws `NilObjectException` for any other.
 TextEncoding GetTextEncoding(std::int32_t base, std::int32_t variant, std::int32_t format);
 
@@ -38,15 +38,15 @@ class TextConverter {
   Table table_;
 };
 
-// The converter from one encoding to the other; null if the machine offers
+// Returns the converter from one encoding to the other; null if the machine offers
 // none, which means that its C library came without these character sets.
 std::shared_ptr<TextConverter> GetTextConverter(TextEncoding from, TextEncoding to);
 
-// The character of ISO 8859-1 nearest to a Unicode code point, "?" if there is
+// Returns the character of ISO 8859-1 nearest to a Unicode code point, "?" if there is
 // none that a reader would take for it.
 char NearestLatin1(int code_point);
 
-// The characters of a Mac Roman text as UTF-16 code units, one each.
+// Returns the characters of a Mac Roman text as UTF-16 code units, one each.
 std::u16string MacRomanToUtf16(std::string_view text);
 
 // The same as UTF-8.

@@ -10,8 +10,8 @@ namespace quill::base {
 
 inline constexpr char32_t kMalformed = 0xFFFD;  // stands for bytes that are no character
 
-// The character at the head of `text`, which is cut off. Of a malformed sequence
-// one byte is cut off and gives `kMalformed`. `text` must not be empty.
+// Cuts off the character at the head of `text` and returns it. Of a malformed
+// sequence one byte is cut off, and `kMalformed` returned. `text` must not be empty.
 char32_t TakeUtf8(std::string_view& text);
 
 // `point` must be a code point, at most U+10FFFF.

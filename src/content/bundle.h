@@ -20,20 +20,21 @@ inline constexpr const char* kBundleFolder = "Quillmere.app";
 inline constexpr const char* kContentsFolder = "Contents";
 inline constexpr const char* kDataFolder = "Data";
 
-// The bundle's folder `Contents`; null if it isn't there, or a folder on the way.
+// Returns the bundle's folder `Contents`; null if it isn't there, or a folder on
+// the way.
 std::shared_ptr<host::FolderItem> BundleContents();
 
-// The content file of that name, UTF-8; null if it isn't there.
+// Returns the content file of that name, UTF-8; null if it isn't there.
 std::shared_ptr<host::FolderItem> ContentFile(const std::string& name);
 
 // Where documents lie: beside the bundle, or in it with the content files.
 enum class DocumentPlace { kBesideBundle, kInBundle };
 
-// The document of that name, Mac Roman; null if it isn't there.
+// Returns the document of that name, Mac Roman; null if it isn't there.
 std::shared_ptr<host::FolderItem> FindDocument(DocumentPlace place, const std::string& name);
 
-// The version that the bundle states, without white space around it; empty if
-// it states none.
+// Returns the version that the bundle states, without white space around it;
+// empty if it states none.
 std::string BundleVersion();
 
 }  // namespace quill::content

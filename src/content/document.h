@@ -17,28 +17,29 @@ namespace quill::content {
 
 class Document {
  public:
-  // The first page whose id reads as that number (`base::IntVal`: "07" is 7, "x"
-  // is 0), null if there is none.
+  // Returns the first page whose id reads as that number (`base::IntVal`: "07" is
+  // 7, "x" is 0), null if there is none.
   std::shared_ptr<Page> GetPage(std::int32_t id) const;
 
-  // The page at that index, null if there is none.
+  // Returns the page at that index, null if there is none.
   std::shared_ptr<Page> GetPageByOffset(std::int32_t index) const;
 
-  // The last index, -1 for an empty document.
+  // Returns the last index, -1 for an empty document.
   std::int32_t GetUbound() const { return static_cast<std::int32_t>(PageList.size()) - 1; }
 
-  // Appends a page of as many columns as there are texts.
+  // Appends a page of as many columns as there are texts. No program of ours calls
+  // these: the loader has a list.
   void AddPage(std::string id, std::string title, std::string text);
   void AddPage(std::string id, std::string title, std::string text1, std::string text2);
   void AddPage(std::string id, std::string title, std::string text1, std::string text2, std::string text3);
-
-  // The same for a list of texts, one to three.
-  void AppendPage(std::string id, std::string title, TextList texts);
 
   // Adds a link to the page whose index is the number that `id` reads as. Dropped
   // if there is no such page.
   void AddLink(const std::string& id, std::string offset, std::string length, std::string link_to_page,
                std::int32_t type, std::int32_t column = 0, std::string file_name = {});
+
+  // Ours, not the domain's: `AddPage` for a list of texts, one to three.
+  void AppendPage(std::string id, std::string title, TextList texts);
 
  private:
   std::vector<std::shared_ptr<Page>> PageList;

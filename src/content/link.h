@@ -37,6 +37,7 @@ class Link {
   // Of an external document; empty if the link has none.
   const std::string& GetFilename() const { return FileName; }
 
+  // No program of ours calls these.
   void SetOffset(std::string value) { offset = std::move(value); }
   void SetLength(std::string value) { length = std::move(value); }
   void SetLinkToPage(std::string value) { LinkToPage = std::move(value); }
@@ -44,7 +45,7 @@ class Link {
   void SetColumn(std::int32_t value) { column = value; }
   void SetFilename(std::string value) { FileName = std::move(value); }
 
-  // A place kept for the link, 0, 0 until set. The reader never sets it.
+  // A place kept for the link, 0, 0 until set. No program of ours calls these.
   void SetCoordinates(std::int32_t x, std::int32_t y) {
     Xpos = x;
     Ypos = y;

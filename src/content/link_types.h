@@ -48,7 +48,7 @@ constexpr bool IsStyledRun(std::int32_t type) {
   return type >= link_type::kFirstStyle && type <= link_type::kLastStyle;
 }
 
-// The row of a type; null if no file may hold it.
+// Returns the row of a type; null if no file may hold it.
 constexpr const LinkType* FindLinkType(std::int32_t type) {
   const auto* const found = std::find_if(kLinkTypes.begin(), kLinkTypes.end(),
                                          [type](const LinkType& row) { return row.type == type; });

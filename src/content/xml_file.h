@@ -6,7 +6,7 @@
 //       Application, Version, LastPageID       text, each may be missing
 //     Document
 //       Page [Columns]                         1, 2 or 3; one column if missing
-//         PageID                               place among the pages, from 0
+//         PageID                               index of the page, from 0
 //         Title
 //         Text                                 one for each column
 //         Links                                may be missing
@@ -50,45 +50,42 @@ class zkXMLFileClass {
 
   void SetFilename(std::string file_name) { TheFilename = std::move(file_name); }
 
-  // Finds and parses the file and reads its head. False if that fails, after a
-  // message box where the reader can do something about it. A file that isn't
-  // there ends the program besides.
+  // Finds and parses the file and reads its head. Returns false if that fails,
+  // after a message box where the reader can do something about it. A file that
+  // isn't there ends the program besides.
   bool Init();
 
   // Appends the file's pages to `document`, which the caller has made empty, and
-  // keeps it. False, with nothing appended, if the file has no element
+  // keeps it. Returns false, with nothing appended, if the file has no element
   // `Document`. Throws `NilObjectException` without a document or before `Init`.
   bool GetDocument(std::shared_ptr<Document> document);
 
-  // The file's head; empty and 0 where it says nothing.
+  // The file's head; empty and 0 where it says nothing. No program of ours calls
+  // the first.
   const std::string& GetAppName() const { return AppName; }
   const std::string& GetAppVersion() const { return AppVersion; }
   std::int32_t GetLastPageID() const { return LastPageID; }
 
   // Appends a page of as many columns as there are texts, with an empty list of
-  // links. Its id is the next after the last.
+  // links. Its id is the next after the last. Throws `OutOfBoundsException`, and
+  // appends nothing, when the last id is the largest there is. No program of ours
+  // calls these: ours have lists.
   void AddPage(const std::string& title, const std::string& text);
   void AddPage(const std::string& title, const std::string& text1, const std::string& text2);
   void AddPage(const std::string& title, const std::string& text1, const std::string& text2,
                const std::string& text3);
 
-  // The same for a list of texts, one to three. Throws `OutOfBoundsException`, and
-  // appends nothing, when the last id is the largest there is.
-  void AppendPage(const std::string& title, const TextList& texts);
-
   // Sets the title and the first texts of a page, of those that it has; the
-  // number of columns stays. Gives it a list of links if it has none.
+  // number of columns stays. Gives it a list of links if it has none. No program
+  // of ours calls these: ours have lists.
   void UpdatePage(const std::string& page_id, const std::string& title, const std::string& text);
   void UpdatePage(const std::string& page_id, const std::string& title, const std::string& text1,
                   const std::string& text2);
   void UpdatePage(const std::string& page_id, const std::string& title, const std::string& text1,
                   const std::string& text2, const std::string& text3);
 
-  // The same for a list of texts.
-  void ReplaceTexts(const std::string& page_id, const std::string& title, const TextList& texts);
-
   // Appends a link to those of a page, whatever else lies at that offset.
-  // Without a column it is for column 1.
+  // Without a column it is for column 1. No program of ours calls the first.
   void AddLink(const std::string& page_id, const std::string& offset, const std::string& length,
                const std::string& link_to_page, std::int32_t type);
   void AddLink(const std::string& page_id, const std::string& offset, const std::string& length,
@@ -103,19 +100,26 @@ class zkXMLFileClass {
                   const std::string& length, const std::string& link_to_page, std::int32_t type);
 
   // Empties the first link with that offset, in whatever column. It keeps its
-  // number, and the loader passes over it.
+  // number, and the loader passes over it. No program of ours calls this.
   void DeleteLink(const std::string& page_id, const std::string& offset);
 
-  // The next page id, the version plus 0.1: here and, where the file has such an
-  // element with a text, in the tree.
+  // Sets the next page id, the version plus 0.1: here and, where the file has such
+  // an element with a text, in the tree. Both saturate, the version in single
+  // precision.
   void IncrementPageID();
   void IncrementVersion();
 
-  // The `Page` element of that id, null if there is none.
+  // Returns the `Page` element of that id, null if there is none.
   std::shared_ptr<markup::zkXMLElement> GetPage(const std::string& page_id) const;
 
-  // Writes the tree to its file, all or nothing. False if that can't be done or
-  // nothing is open; the old file is then what it was.
+  // Ours, not the domain's:
+
+  // `AddPage` and `UpdatePage` for a list of texts, one to three.
+  void AppendPage(const std::string& title, const TextList& texts);
+  void ReplaceTexts(const std::string& page_id, const std::string& title, const TextList& texts);
+
+  // Writes the tree to its file, all or nothing. Returns false if that can't be
+  // done or nothing is open; the old file is then what it was.
   //
   // No indentation is added, whatever `UseXMLFormatting` says: it would make an
   // empty title one of white space. What stood in the file stands there again,
@@ -124,15 +128,14 @@ class zkXMLFileClass {
   bool Save() const;
 
  private:
+  // Ours, not the domain's:
   bool Open();
   bool Locate();
   void ReadAppInfo();
-
-  // The file's name as messages show it, Mac Roman.
-  std::string ShownName() const;
-
+  std::string ShownName() const;  // the file's name in messages, Mac Roman
   std::shared_ptr<markup::zkXMLElement> LinksOf(const std::string& page_id) const;
 
+  // The domain's:
   std::shared_ptr<host::FolderItem> TheFile;
   std::shared_ptr<markup::zkXMLContainer> TheContainer;
   std::shared_ptr<markup::zkXMLElement> Root;

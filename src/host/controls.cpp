@@ -1,11 +1,12 @@
 #include "host/controls.h"
 
+#include "base/numbers.h"
 #include "host/desktop.h"
 
 namespace quill::host {
 
 void RectControl::ShowState() {
-  Peer().Place(frame_);
+  Peer().Place(FrameInParent());
   Peer().SetVisible(visible_);
   Peer().SetEnabled(enabled_);
 }
@@ -13,7 +14,15 @@ void RectControl::ShowState() {
 void RectControl::Place(const base::Rect& frame) {
   if (frame == frame_) return;
   frame_ = frame;
-  Peer().Place(frame_);
+  Peer().Place(FrameInParent());
+}
+
+// A control keeps its distance from its parent when that moves, as the desktop's
+// own controls do; what counts from the window is its place at the time it is set.
+base::Rect RectControl::FrameInParent() const {
+  if (parent_ == nullptr) return frame_;
+  return {base::AddSaturating(frame_.left, -parent_->Left()),
+          base::AddSaturating(frame_.top, -parent_->Top()), frame_.width, frame_.height};
 }
 
 void RectControl::SetLeft(std::int32_t left) { Place({left, frame_.top, frame_.width, frame_.height}); }
@@ -34,7 +43,8 @@ void RectControl::SetEnabled(bool enabled) {
 }
 
 Canvas::Canvas(Window& window, Canvas* parent, const base::Rect& frame)
-    : RectControl(frame), peer_(window.Peer().NewCanvas(*this, parent ? parent->peer_.get() : nullptr)) {
+    : RectControl(parent, frame),
+      peer_(window.Peer().NewCanvas(*this, parent ? parent->peer_.get() : nullptr)) {
   ShowState();
 }
 
@@ -45,7 +55,8 @@ void Canvas::SetBackdrop(std::shared_ptr<Picture> backdrop) {
 
 StaticText::StaticText(Window& window, Canvas* parent, const base::Rect& frame, const TextStyle& style,
                        std::string text)
-    : RectControl(frame), peer_(window.Peer().NewStaticText(style, parent ? parent->peer_.get() : nullptr)) {
+    : RectControl(parent, frame),
+      peer_(window.Peer().NewStaticText(style, parent ? parent->peer_.get() : nullptr)) {
   SetText(std::move(text));
   ShowState();
 }
@@ -57,7 +68,7 @@ void StaticText::SetText(std::string text) {
 
 CheckBox::CheckBox(Window& window, Canvas* parent, const base::Rect& frame, const std::string& caption,
                    const TextFace& face)
-    : RectControl(frame),
+    : RectControl(parent, frame),
       peer_(window.Peer().NewCheckBox(*this, caption, face, parent ? parent->peer_.get() : nullptr)) {
   ShowState();
 }
@@ -69,7 +80,7 @@ void CheckBox::SetValue(bool value) {
 
 EditField::EditField(Window& window, Canvas* parent, const base::Rect& frame, const TextStyle& style,
                      base::Color back_color)
-    : RectControl(frame),
+    : RectControl(parent, frame),
       peer_(window.Peer().NewEditField(style, back_color, parent ? parent->peer_.get() : nullptr)) {
   ShowState();
 }

@@ -15,6 +15,7 @@
 
 namespace quill::host {
 
+class Canvas;
 class Window;
 
 // A rectangle in a window. New controls are visible and enabled.
@@ -24,6 +25,7 @@ class RectControl {
   RectControl(const RectControl&) = delete;
   RectControl& operator=(const RectControl&) = delete;
 
+  // Left and top count from the window, whatever control this one lies in.
   std::int32_t Left() const { return frame_.left; }
   std::int32_t Top() const { return frame_.top; }
   std::int32_t Width() const { return frame_.width; }
@@ -42,7 +44,8 @@ class RectControl {
   virtual void Event_Open() {}
 
  protected:
-  explicit RectControl(const base::Rect& frame) : frame_(frame) {}
+  // `parent` is the canvas that the control lies in, null for the window.
+  RectControl(const Canvas* parent, const base::Rect& frame) : parent_(parent), frame_(frame) {}
 
   virtual ControlPeer& Peer() = 0;
 
@@ -51,7 +54,9 @@ class RectControl {
 
  private:
   void Place(const base::Rect& frame);
+  base::Rect FrameInParent() const;
 
+  const Canvas* parent_;
   base::Rect frame_;
   bool visible_ = true;
   bool enabled_ = true;
@@ -71,6 +76,9 @@ class Canvas : public RectControl {
   // What the canvas says, for those who can't see it; empty if there is nothing
   // on it to press.
   void SetLabel(const std::string& label) { peer_->SetLabel(label); }
+
+  // What pressing it does, for a desktop's own help.
+  void SetPurpose(const Purpose& purpose) { peer_->SetPurpose(purpose); }
 
   // Its area must be shown anew.
   virtual void Event_Paint() {}
@@ -175,7 +183,13 @@ class Window {
   // Puts the upper left corner of the content there on the screen.
   void MoveTo(std::int32_t left, std::int32_t top) { peer_->MoveTo(left, top); }
 
+  // Tells the desktop what the window says.
+  void SetReading(const Reading& reading) { peer_->SetReading(reading); }
+
   WindowPeer& Peer() { return *peer_; }
+
+  // The user asks that what the window holds be saved now.
+  virtual void Event_Save() {}
 
  protected:
   virtual void Event_Open() {}

@@ -25,11 +25,13 @@ class Desktop {
 
   static Desktop& Current();
 
-  // Shows `text` (Mac Roman) and waits until the user has seen it.
+  // Shows `text` (Mac Roman) and waits until the user has seen it. After `Quit`
+  // nothing is shown any more.
   virtual void MsgBox(const std::string& text) = 0;
 
-  // Asks the event loop to end with that exit status. Comes back to its caller;
-  // before the loop has begun it keeps the loop from beginning.
+  // Asks the event loop to end with that exit status; of several the first counts.
+  // Comes back to its caller; before the loop has begun it keeps the loop from
+  // beginning.
   virtual void Quit(std::int32_t code) = 0;
 
   // The folder that holds the application's bundle; null if it can't be told.

@@ -11,6 +11,7 @@
 
 #include "base/geometry.h"
 #include "host/graphics.h"
+#include "host/reading.h"
 
 namespace quill::host {
 
@@ -22,7 +23,8 @@ class ControlPeer {
  public:
   virtual ~ControlPeer() = default;
 
-  // `frame` counts from the parent's upper left corner.
+  // `frame` counts from the upper left corner of the control that it lies in, or
+  // of the window.
   virtual void Place(const base::Rect& frame) = 0;
   virtual void SetVisible(bool visible) = 0;
 
@@ -43,6 +45,9 @@ class CanvasPeer : public ControlPeer {
   // What the canvas says, for those who can't see it; empty if it is no control
   // that can be pressed.
   virtual void SetLabel(const std::string& label) = 0;
+
+  // What pressing it does.
+  virtual void SetPurpose(const Purpose& purpose) = 0;
 };
 
 class StaticTextPeer : public ControlPeer {
@@ -111,12 +116,18 @@ class WindowPeer {
   virtual std::unique_ptr<EditFieldPeer> NewEditField(const TextStyle& style, base::Color back_color,
                                                       ControlPeer* parent) = 0;
 
-  // Place and size of the window's content on the screen.
+  // Place and size of the window's content on the screen, in the program's pixels:
+  // a desktop that shows windows larger or smaller counts the screen alike.
   virtual base::Rect Frame() const = 0;
 
   virtual void MoveTo(std::int32_t left, std::int32_t top) = 0;
 
-  // Puts the window on the screen, in front of the others; takes it off.
+  // What the window says from now on. A desktop may tell the user that it has
+  // changed.
+  virtual void SetReading(const Reading& reading) = 0;
+
+  // Puts the window on the screen, in front of the others, and brings back one that
+  // was minimised; takes it off.
   virtual void Show() = 0;
   virtual void Hide() = 0;
 };

@@ -21,8 +21,6 @@ host::WindowStyle ViewerStyle() {
 
 DisplayWindow::DisplayWindow(app::App& app, SideWindows side_windows)
     : Window(ViewerStyle()),
-      app_(app),
-      side_windows_(std::move(side_windows)),
       Stext(AddControl<host::Canvas>(nullptr, render::kPageCanvas)),
       TitleField(AddControl<host::StaticText>(&Stext, base::Rect{77, 5, 494, 27},
                                               host::SystemText(14, base::kWhite, host::TextAlign::kCenter),
@@ -32,9 +30,11 @@ DisplayWindow::DisplayWindow(app::App& app, SideWindows side_windows)
                                               "")),
       NumberCB(AddControl<host::CheckBox>(&Stext, base::Rect{0, 9, 80, 20}, "numbers",
                                           host::SystemText(12, base::kBlack).face)),
-      ExitPB(AddButton(render::kExitFrame)),
+      ExitPB(AddControl<TextButton>(&Stext, render::kExitFrame, app)),
       VersionField(AddControl<host::StaticText>(&Stext, base::Rect{340, 61, 73, 20},
-                                                host::SystemText(9, base::kBlack), "")) {
+                                                host::SystemText(9, base::kBlack), "")),
+      app_(app),
+      side_windows_(std::move(side_windows)) {
   Stext.SetBackdrop(app_.pictures.qmr());
   PageNumber.SetVisible(false);
   NumberCB.SetVisible(false);
@@ -88,6 +88,7 @@ void DisplayWindow::LinkButton_IsPushed(TextButton& button) {
   using Kind = app::Destination::Kind;
   const app::Destination destination = app::DestinationOf(
       app_.AllModes(), app_.CurrentMode(), button.GetLinkType(), button.GetPage(), button.GetFilename());
+  if (destination.kind == Kind::kPage || destination.kind == Kind::kMode) RememberLeaving(button);
   switch (destination.kind) {
     case Kind::kPage:
       return ShowPage(destination.name);
@@ -116,15 +117,17 @@ void DisplayWindow::ExitPB_IsPushed() {
   if (app_.CurrentMode().opening) {
     host::Quit(0);
   } else {
+    returning_ = true;
     ChooseMode(app::kOpeningMode);
   }
 }
 
-// `ShowPage` puts back the entry that the cut took away, so that the trail ends
+// `ShowPage` puts back the page that the cut took away, so that the trail ends
 // with the page on show.
 void DisplayWindow::BackButton_IsPushed(TextButton& button) {
   const auto page = std::string(button.GetPage());
   history.ResetHistory(page);
+  returning_ = true;
   ShowPage(page);
 }
 

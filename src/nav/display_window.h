@@ -9,8 +9,10 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/app.h"
@@ -20,6 +22,7 @@
 #include "nav/history.h"
 #include "nav/text_button.h"
 #include "render/page_layout.h"
+#include "render/page_reading.h"
 
 namespace quill::nav {
 
@@ -43,11 +46,14 @@ class DisplayWindow final : public host::Window {
   // Enters a mode and shows its first page. `mode` must be one of the table.
   void ChooseMode(std::int32_t mode);
 
-  // Name of the text face of pages and buttons; empty, which is the desktop's.
+  // Returns the name of the text face of pages and buttons; empty, which is the
+  // desktop's. No program of ours calls this.
   const std::string& GetFont() const { return Font; }
 
-  // What the viewer shows, as a few lines of text: mode, page, title, trail,
-  // words and buttons in use.
+  // Ours, not the domain's:
+
+  // Returns what the viewer shows, as a few lines of text: mode, page, title,
+  // trail, words and buttons in use.
   std::string Dump() const;
 
   // Writes each word's offset below it from the next page on: an author's help.
@@ -65,25 +71,31 @@ class DisplayWindow final : public host::Window {
   void DrawPage(const std::string& page_number);
   void InitializeCanvas();
   void InitLinkButtons();
-  void DrawText(const content::Page& page, const std::string& page_number);
-  void PlaceLink(const render::PlacedLink& placed, const content::Link& link);
   void ShowBackButtons();
 
   // What pushing a button does.
   void LinkButton_IsPushed(TextButton& button);
   void ExitPB_IsPushed();
   void BackButton_IsPushed(TextButton& button);
-  void EnterMode(const app::Destination& destination);
 
   // Hand a document to another application; `filename` is Mac Roman.
   void ShowDocument(const std::string& filename);
   void ShowPDF(const std::string& filename);
 
+  // Ours, not the domain's:
+  void DrawText(const content::Page& page, const std::string& page_number);
+  void PlaceLink(const render::PlacedLink& placed, const content::Link& link);
+  void EnterMode(const app::Destination& destination);
   TextButton& AddButton(const base::Rect& frame);
 
-  app::App& app_;
-  SideWindows side_windows_;
-  std::string Font;  // names the desktop's own text face
+  // What the desktop is told of the page.
+  void TellReading(const content::Page* page, const std::string& page_number);
+  void AddColumn(const render::ReadColumn& column, host::Reading& reading) const;
+  host::Purpose PurposeOf(const content::Link& link) const;
+  host::Canvas* StepBack(const std::vector<host::Canvas*>& trail);
+  void RememberLeaving(const TextButton& button);
+
+  // The domain's:
 
   // The controls, in the order they are made. Each but the first lies on it.
   host::Canvas& Stext;
@@ -93,19 +105,26 @@ class DisplayWindow final : public host::Window {
   TextButton& ExitPB;
   host::StaticText& VersionField;
 
-  std::vector<TextButton*> LinkButtonArray;  // button i shows link i of the page
-  std::vector<TextButton*> BackButtonArray;
-
   std::unique_ptr<content::zkXMLFileClass> xmlFile;
-  std::unique_ptr<content::zkXMLFileClass> glossaryFile;
-  std::string XMLFileName;
-  std::string GlossaryFileName;
-
-  std::int32_t CurrentPage = 0;  // the page on show, or next to be shown
+  std::vector<TextButton*> LinkButtonArray;  // button i shows link i of the page
+  std::int32_t CurrentPage = 0;              // the page on show, or next to be shown
+  std::shared_ptr<host::Graphics> G;         // pen of the page's picture
   History history;
+  std::string Font;  // names the desktop's own text face
+  std::vector<TextButton*> BackButtonArray;
+  std::unique_ptr<content::zkXMLFileClass> glossaryFile;
+  std::string GlossaryFileName;
+  std::string XMLFileName;
 
-  std::shared_ptr<host::Graphics> G;  // pen of the page's picture
-  render::PageLayout layout_;         // of the page on show
+  // Ours, not the domain's:
+  app::App& app_;
+  SideWindows side_windows_;
+  render::PageLayout layout_;  // of the page on show
+
+  // By mode and page, the link by which the reader went on from there the last
+  // time; and whether they are on their way back.
+  std::map<std::pair<std::int32_t, std::int32_t>, std::size_t> left_by_;
+  bool returning_ = false;
 };
 
 }  // namespace quill::nav

@@ -10,8 +10,8 @@ namespace {
 constexpr const char* kDirectObject = "----";
 
 // Without a document the event goes out all the same, and fails.
-void Send(const std::string& target, content::DocumentPlace place, const std::string& filename) {
-  const auto event = host::NewAppleEvent("aevt", "odoc", target);
+void Send(const std::string& application, content::DocumentPlace place, const std::string& filename) {
+  const auto event = host::NewAppleEvent("aevt", "odoc", application);
   host::AppleEventDescList list;
   if (const auto document = content::FindDocument(place, filename)) list.AppendFolderItem(document);
   event->SetDescListParam(kDirectObject, list);

@@ -35,6 +35,8 @@ void DisplayWindow::DrawPage(const std::string& page_number) {
     DrawText(*page, page_number);
   }
   ShowBackButtons();
+  TellReading(page.get(), page_number);
+  returning_ = false;
 }
 
 void DisplayWindow::InitializeCanvas() {
@@ -80,6 +82,7 @@ void DisplayWindow::InitLinkButtons() {
   }
   ExitPB.SetLinkType(content::link_type::kTrail);
   ExitPB.SetFontSize(render::kRowFontSize);
+  ExitPB.SetPurpose({host::Purpose::Kind::kButton, app_.CurrentMode().opening ? "" : "opening page"});
   ExitPB.SetText(render::ExitLabel(app_.CurrentMode()));
   ExitPB.SetEnabled(true);
   ExitPB.Show();
@@ -107,6 +110,7 @@ void DisplayWindow::PlaceLink(const render::PlacedLink& placed, const content::L
   button.SetPage(link.GetLinkToPage());
   button.SetLinkType(link.GetType());
   button.SetFilename(link.GetFilename());
+  button.SetPurpose(PurposeOf(link));
   button.SetEnabled(true);
   if (!placed.text.empty()) button.SetText(placed.text);
   if (placed.shown) button.Show();
@@ -116,12 +120,13 @@ void DisplayWindow::ShowBackButtons() {
   if (CurrentPage == 1 || app_.CurrentMode().opening) return;
   std::int32_t left = render::kRowLeft;
   for (const TrailButton& place : history.Row()) {
-    const std::string& page = history.Pages()[place.entry];
+    const std::string& page = history.Pages()[place.step];
     TextButton& button = *BackButtonArray[place.pool];
     button.SetLeft(left);
     button.SetEnabled(true);
     button.SetLinkType(content::link_type::kTrail);
     button.SetPage(page);
+    button.SetPurpose({host::Purpose::Kind::kTrail, "page " + TitleOf(app_.doc, base::IntVal(page))});
     button.SetText(place.prefix + TitleOf(app_.doc, base::IntVal(page)) + " ");
     button.Show();
     left = base::AddSaturating(left, button.Width());

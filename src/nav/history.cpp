@@ -15,9 +15,9 @@ void History::ResetHistory(const std::string& page) {
 std::vector<TrailButton> History::Row() const {
   if (pages_.empty()) return {};
   std::vector<TrailButton> row = {{0, 0, ""}};
-  const std::size_t shown = pages_.size() - 1;  // the entry of the page on show
+  const std::size_t shown = pages_.size() - 1;  // the step of the page on show
   if (shown < 4) {
-    for (std::size_t entry = 1; entry < shown; ++entry) row.push_back({entry, entry, "> "});
+    for (std::size_t step = 1; step < shown; ++step) row.push_back({step, step, "> "});
     return row;
   }
   const bool beyond = shown - 1 >= kBackButtons;

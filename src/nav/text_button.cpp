@@ -81,11 +81,11 @@ bool TextButton::PrepareBackdrop(bool green) {
 void TextButton::SetText(const std::string& label) {
   text = label;
   SetLabel(label);
+  if (text.empty()) return TakeOutOfUse();
+  // Nothing to measure on: hidden, the button keeps its size, so that the next
+  // `init` tries again.
   host::Graphics* const graphics = Backdrop() ? Backdrop()->GetGraphics() : nullptr;
-  if (text.empty() || graphics == nullptr) {
-    TakeOutOfUse();
-    return;
-  }
+  if (graphics == nullptr) return PutAway();
   graphics->TextSize = fontsize;
   SetWidth(base::ToInt32(graphics->StringWidth(text)));
   SetHeight(render::kLabelHeight);
@@ -107,7 +107,7 @@ void TextButton::SetColors() {
   if (look == nullptr) return;
   TextColor = look->text_color;
   HighlightColor = base::RGB(255, 255, 0);
-  DrawLine = look->line;
+  SetDrawLine(look->line);
 }
 
 void TextButton::PutAway() {

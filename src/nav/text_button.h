@@ -43,10 +43,9 @@ class TextButton final : public host::Canvas {
   const std::string& GetPage() const { return Page; }
   void SetFilename(const std::string& filename) { Filename = filename; }
   const std::string& GetFilename() const { return Filename; }
+  // Whether a line is drawn under the label.
+  void SetDrawLine(bool line) { DrawLine = line; }
   void SetFontSize(std::int32_t size) { fontsize = size; }
-
-  // Hides and disables the button without touching its label.
-  void PutAway();
 
   void Event_Open() override { init(); }
   void Event_Paint() override;
@@ -59,14 +58,19 @@ class TextButton final : public host::Canvas {
   // nothing.
   std::function<void(TextButton&)> IsPushed;
 
+  // Ours, not the domain's: hides and disables the button without touching its
+  // label.
+  void PutAway();
+
  private:
-  void SetColors();
   void DrawText();
+  void SetColors();
+
+  // Ours, not the domain's:
   bool PrepareBackdrop(bool green);
   void TakeOutOfUse();
 
-  app::App& app_;
-
+  // The domain's:
   std::string text;
   base::Color TextColor;
   base::Color HighlightColor;
@@ -78,6 +82,8 @@ class TextButton final : public host::Canvas {
   std::string Filename;
   std::int32_t fontsize = 0;  // points; 0 is the host's default
 
+  // Ours, not the domain's:
+  app::App& app_;
   bool backdrop_is_green_ = false;
 };
 

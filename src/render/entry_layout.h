@@ -13,7 +13,7 @@
 
 namespace quill::render {
 
-// Where things lie: the canvas in the window, the rest on the canvas.
+// Where things lie, in pixels of the window.
 inline constexpr base::Rect kEntryCanvas = {2, 2, 459, 356};
 inline constexpr base::Rect kEntryClose = {378, 327, 59, 24};
 

@@ -6,8 +6,8 @@
 
 namespace quill::render {
 
-// Draws the background of the current mode with `graphics`, at the upper
-// left corner. One that can't be read leaves what is there.
+// Draws the background of the current mode with `graphics`, at the upper left
+// corner. One that can't be read leaves what is there.
 void DrawBackground(app::App& app, host::Graphics& graphics);
 
 // Gives `graphics` the white ink and the face of page text: the named font at

@@ -15,7 +15,7 @@ struct PageGeometry {
   std::int32_t TopMargin = 0;  // where every column starts
 
   // Divides a canvas of that width between `columns` columns, 1 to 3, with no
-  // gap between neighbours. Entries of columns that the page doesn't have keep
+  // gap between neighbours. Elements of columns that the page doesn't have keep
   // what they held; any other number of columns sets the page's own alone.
   void SetMargins(std::int32_t columns, std::int32_t canvas_width);
 };

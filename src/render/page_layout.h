@@ -31,6 +31,12 @@ namespace quill::render {
 // A page's links from this index on have no button to show them.
 inline constexpr std::size_t kLinkButtons = 61;
 
+// A field of a column's text: what stands between two blanks of a paragraph.
+struct FieldIndex {
+  std::size_t paragraph = 0;
+  std::size_t field = 0;
+};
+
 // Text on the canvas: a word of the flow, or an offset label below one. `x`,
 // `y` is the left end of its base line, in pixels of the canvas.
 struct PlacedWord {
@@ -42,32 +48,33 @@ struct PlacedWord {
   bool underline = false;
   std::int32_t column = 0;  // from 1
   std::int32_t offset = 0;  // of the word, or of the word that a label names
+  FieldIndex field;         // where the word stands in the text
 };
 
 // A link that found its word.
 struct PlacedLink {
   std::size_t index = 0;  // in the page's list, below `kLinkButtons`
-  std::int32_t left = 0;  // upper left corner of its button in the window
+  std::int32_t left = 0;  // upper left corner of its button, on the canvas
   std::int32_t top = 0;
   std::string text;
   bool shown = false;  // false for a styled run, whose button stays hidden
   std::int32_t column = 0;
   std::int32_t offset = 0;  // of its first word
+  FieldIndex field;         // where its first word stands in the text
+  std::int32_t fields = 1;  // so many of the paragraph's fields are its text
 };
 
 struct PageLayout {
   std::vector<PlacedWord> words;
   std::vector<PlacedLink> links;
 
-  // A line for each word and link, in the order they were placed.
+  // Returns a line for each word and link, in the order they were placed.
   std::string Dump() const;
 };
 
 struct LayoutSettings {
   PageGeometry geometry;
   host::TextFace face;           // of plain text; its style flags must be clear
-  std::int32_t canvas_left = 0;  // of the canvas in its window, pixels
-  std::int32_t canvas_top = 0;
   std::int32_t button_rise = 0;  // from a line's base line up to a button's top, pixels
   double paragraph_step = 1.0;   // space behind a paragraph, in line heights
   bool show_offsets = false;     // write each word's offset below it

@@ -10,8 +10,8 @@
 
 namespace quill::render {
 
-// How a page of that many columns is laid out in a mode. `page_number` is the
-// text by which it was asked for: a mode's close-set page is known by it.
+// Returns how a page of that many columns is laid out in a mode. `page_number` is
+// the text by which it was asked for: a mode's close-set page is known by it.
 LayoutSettings PageSettings(const app::Mode& mode, std::int32_t columns, std::string_view page_number);
 
 }  // namespace quill::render

@@ -19,14 +19,19 @@ class FreeAssociation final : public host::Window {
  public:
   FreeAssociation();
 
+  // Ours, not the domain's: a desktop's command saves without closing.
+  void Event_Save() override { SaveFile(); }
+
  private:
-  void Event_Open() override { OpenFile(); }
   void Event_Close() override { SaveFile(); }
+  void Event_Open() override { OpenFile(); }
   void OpenFile();
   void SaveFile();
 
   host::EditField& EditField1;
   std::shared_ptr<host::FolderItem> TheFile;
+
+  // Ours, not the domain's:
   bool unread_ = false;  // there are notes that couldn't be read
 };
 

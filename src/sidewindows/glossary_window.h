@@ -25,21 +25,27 @@ class GlossaryWindow final : public host::Window {
   void ShowPage(const std::string& page);
 
  private:
+  void ClosePB_IsPushed() { Close(); }
   void Event_Open() override { Init(); }
   void Init();
-  void PrepareCanvas();
   void DrawPage();
-  void ClosePB_IsPushed() { Close(); }
 
-  app::App& app_;
-  const host::Window& viewer_;
+  // Ours, not the domain's:
+  void PrepareCanvas();
+  void TellReading(const std::string& text);
 
+  // The domain's:
   host::Canvas& PageCanvas;
   nav::TextButton& ClosePB;
   host::StaticText& TitleField;
 
   std::string Page;
   std::shared_ptr<host::Graphics> g;  // pen of the canvas's picture
+
+  // Ours, not the domain's:
+  app::App& app_;
+  const host::Window& viewer_;
+  const app::Mode& look_;  // of the mode in which the window was made
 };
 
 }  // namespace quill::sidewindows

@@ -5,6 +5,7 @@
 #include "app/file_types.h"
 #include "app/product.h"
 #include "host/memory/memory_desktop.h"
+#include "support/messages.h"
 
 namespace quill::app {
 namespace {
@@ -25,10 +26,10 @@ TEST(AppTest, TranslatesBetweenFieldsAndColumns) {
 
 TEST(AppTest, FillsTheTablesAndSaysNothing) {
   host::MemoryDesktop desktop;
+  const tests::NoUnseenMessages no_unseen_messages(desktop);
   App app;
   app.TestMode = true;
   app.Event_Open();
-  EXPECT_TRUE(desktop.messages.empty());
   EXPECT_EQ(app.QMRFileName[5], "BioQMR.xml");
   EXPECT_EQ(app.GlossaryFileName[0], "initglossary.xml");
   EXPECT_EQ(app.QMRFileName[6], "");

@@ -5,7 +5,7 @@
 namespace quill::content {
 namespace {
 
-TEST(Document, FindsPagesByIdAndByPosition) {
+TEST(Document, FindsPagesByIdAndByIndex) {
   Document document;
   document.AddPage("03", "first", "");
   document.AddPage("3", "second", "", "");

@@ -2,33 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include "markup/container.h"
+#include "support/document_dump.h"
 #include "support/texts.h"
 
 namespace quill::content {
 namespace {
 
-// A page as "id title|text1|text2|text3" with as many texts as columns, a link
-// as "(offset length target type column file)".
 std::string Loaded(const std::string& pages) {
   const markup::zkXMLContainer container("<Document>" + pages + "</Document>");
   Document document;
   LoadPages(*container.GetElement(1), document);
-  std::ostringstream dump;
-  for (std::int32_t i = 0; i <= document.GetUbound(); ++i) {
-    const Page& page = *document.GetPageByOffset(i);
-    dump << (i == 0 ? "" : "; ") << page.GetPageID() << " " << page.GetTitle();
-    for (std::int32_t column = 1; column <= page.GetColumns(); ++column) dump << "|" << page.GetText(column);
-    std::vector<std::shared_ptr<Link>> links;
-    page.GetLinks(links);
-    for (const auto& link : links) {
-      dump << " (" << link->GetOffset() << " " << link->GetLength() << " " << link->GetLinkToPage() << " "
-           << link->GetType() << " " << link->GetColumn() << " " << link->GetFilename() << ")";
-    }
-  }
-  return dump.str();
+  return tests::DumpDocument(document);
 }
 
 TEST(Loader, ReadsPages) {
@@ -36,39 +21,41 @@ TEST(Loader, ReadsPages) {
       Loaded,
       {{"<!--c--><page COLUMNS='2'>t<TEXT>x</TEXT><Link/><text>y</text><text>z</text><title>T</title>"
         "<pageid>0</pageid></page><other/>",
-        "0 T|x|y", "names in any case, children in any order, strangers and a text too many between"},
+        "0 T \"x\" \"y\"\n",
+        "names in any case, children in any order, strangers and a text too many between"},
        {"<Page><Title>T</Title><Title>U</Title><PageID>0</PageID><PageID>1</PageID><Text>x</Text>"
         "<Text>y</Text></Page>",
-        "0 T|x", "the first of each name counts, in one column if nothing is said"},
+        "0 T \"x\"\n", "the first of each name counts, in one column if nothing is said"},
        {"<Page><PageID> 0 </PageID><Title>a&amp;amp;b\r\n<b>c</b>d</Title><Text><!--c-->x</Text></Page>",
-        " 0  a&b\n|c", "nothing trimmed, up to the first inner tag"},
+        " 0  a&b\n \"c\"\n", "nothing trimmed, up to the first inner tag"},
        {"<Page><PageID>0</PageID><Title>T</Title><Text>x</Text></Page>"
         "<Page><PageID/><Title></Title><Text></Text></Page>",
-        "0 T|x;  |", "an element with nothing inside is empty, also behind a page that had a text"},
+        "0 T \"x\"\n  \"\"\n", "an element with nothing inside is empty, also behind a page that had a text"},
        {"<Page Columns='2'><PageID>0</PageID><Title>T</Title><Text>x</Text><Text>y</Text></Page>"
         "<Page Columns='2'><Text>z</Text></Page><Page Columns='0'><Text>!</Text></Page>",
-        "0 T|x|y; 0 T|z|y; 0 T|z|y|",
+        "0 T \"x\" \"y\"\n0 T \"z\" \"y\"\n0 T \"z\" \"y\" \"\"\n",
         "what is left out comes from the page before; no columns read no text and make three"},
        {"<Page Columns='2147483647'><Text>x</Text><Text>y</Text><Text>z</Text><Text>!</Text></Page>",
-        " |x|y|z", "a fourth text is not read"},
+        "  \"x\" \"y\" \"z\"\n", "a fourth text is not read"},
        {"<Page><PageID>1</PageID><Links><Link><Offset>1</Offset></Link></Links></Page>"
         "<Page><PageID>x</PageID><Links><Link><Offset>2</Offset></Link></Links></Page>",
-        "1 | (2   0 1 ); x |", "a link goes to the position that its page's id reads as, if there is one"}});
+        "1  \"\" 1:2+>:0\nx  \"\"\n",
+        "a link goes to the index that its page's id reads as, if there is one"}});
 }
 
 TEST(Loader, ReadsLinks) {
   const auto loaded = [](const std::string& links) {
-    return Loaded("<Page><PageID>0</PageID><Links>" + links + "</Links></Page>").substr(3);
+    return Loaded("<Page><PageID>0</PageID><Links>" + links + "</Links></Page>").substr(5);
   };
   tests::ExpectEach(
       loaded,
       {{"<Link Column='2'><Offset>07</Offset><Length>5</Length><LinkToPage>1</LinkToPage>"
         "<LinkType>3</LinkType><Filename>f</Filename></Link><x/><Link><Offset>2</Offset></Link>",
-        " (07 5 1 3 2 f) (2 5 1 0 1 )", "length and target come from the link before, the rest doesn't"},
+        " 2:07+5>1:3f 1:2+5>1:0\n", "length and target come from the link before, the rest doesn't"},
        {"<Link column='2'/><Link><Length>4</Length></Link><LINK column='3'><Offset>7</Offset></LINK>",
-        " (7   0 3 )", "without an offset all of a link is skipped"},
-       {"<Link Column='x'><Offset>1</Offset><LinkType>y</LinkType></Link>", " (1   0 0 )", "no number is 0"},
-       {"</Links><Links><Link><Offset>1</Offset></Link>", "", "a second list is not read"}});
+        " 3:7+>:0\n", "without an offset all of a link is skipped"},
+       {"<Link Column='x'><Offset>1</Offset><LinkType>y</LinkType></Link>", " 0:1+>:0\n", "no number is 0"},
+       {"</Links><Links><Link><Offset>1</Offset></Link>", "\n", "a second list is not read"}});
 }
 
 }  // namespace

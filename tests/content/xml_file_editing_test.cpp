@@ -9,6 +9,8 @@
 #include "content/xml_file.h"
 #include "host/memory/memory_desktop.h"
 #include "markup/text_helpers.h"
+#include "support/document_dump.h"
+#include "support/messages.h"
 #include "support/texts.h"
 
 namespace quill::content {
@@ -18,22 +20,10 @@ using tests::Quoted;
 
 constexpr const char* kPath = "Quillmere.app/Contents/Data/a.xml";
 
-// A page as its id, title and texts, a link as "(offset length target type column file)".
 std::string DumpOf(zkXMLFileClass& file) {
   const auto document = std::make_shared<Document>();
   EXPECT_TRUE(file.GetDocument(document));
-  std::ostringstream dump;
-  for (std::int32_t i = 0; i <= document->GetUbound(); ++i) {
-    const Page& page = *document->GetPageByOffset(i);
-    dump << page.GetPageID() << " " << Quoted(page.GetTitle());
-    for (std::int32_t column = 1; column <= page.GetColumns(); ++column) dump << Quoted(page.GetText(column));
-    for (const auto& link : LinksOf(page)) {
-      dump << " (" << link->GetOffset() << " " << link->GetLength() << " " << link->GetLinkToPage() << " "
-           << link->GetType() << " " << link->GetColumn() << " " << link->GetFilename() << ")";
-    }
-    dump << "; ";
-  }
-  return dump.str();
+  return tests::DumpDocument(*document);
 }
 
 struct EditingTest : testing::Test {
@@ -74,6 +64,7 @@ struct EditingTest : testing::Test {
   }
 
   host::MemoryDesktop desktop_;
+  const tests::NoUnseenMessages no_unseen_messages_{desktop_};
   zkXMLFileClass file_{"a.xml"};
 };
 
@@ -86,9 +77,9 @@ TEST_F(EditingTest, AFileGrowsFromNothing) {
   file_.AddLink("2.7", "0", "1", "<", -1, 3);
   file_.AddLink("1", "0", "1", "", 9, 2, "a b.pdf");
   const std::string grown =
-      "0 \"Start\"\"See.\\n< a]]>b\" (9 5 1 0 1 ); "
-      "1 \"\"\"x\"\"\\x8E\" (0 1  9 2 a b.pdf); "
-      "2 \"'\"&\"\"1\"\"2\"\" \\t\" (0 1 < -1 3 ); ";
+      "0 Start \"See.\\n< a]]>b\" 1:9+5>1:0\n"
+      "1  \"x\" \"\\x8E\" 2:0+1>:9a b.pdf\n"
+      "2 '\"& \"1\" \"2\" \" \\t\" 3:0+1><:-1\n";
   EXPECT_EQ(Reloaded(), grown);
   markup::zkXMLToolkitGlobals::UseXMLFormatting = true;
   EXPECT_EQ(Reloaded(), grown) << "indentation would fill the empty title";
@@ -116,7 +107,7 @@ TEST_F(EditingTest, UpdatesWhatAPageHasToTheLetter) {
 TEST_F(EditingTest, LinksKeepTheirNumbers) {
   OpenPage("");
   file_.AddLink("0", "1", "2", "3", 4);
-  EXPECT_EQ(Reloaded(), "0 \"T\"\"x\"; ") << "no place for links, and none made";
+  EXPECT_EQ(Reloaded(), "0 T \"x\"\n") << "no place for links, and none made";
   file_.UpdatePage("0", "T", "x");
   file_.AddLink("0", "7", "1", "a", 0, 2);
   file_.AddLink("0", "7", "2", "b", 0, 1);
@@ -125,10 +116,10 @@ TEST_F(EditingTest, LinksKeepTheirNumbers) {
   file_.DeleteLink("1", "7");
   for (const std::int32_t outside : {0, 4}) file_.UpdateLink("0", outside, "!", "!", "!", 1);
   file_.UpdateLink("0", 1, "!", "!", "!", 1);
-  EXPECT_EQ(desktop_.messages, std::vector<std::string>{"Unable to locate link 1"});
+  EXPECT_EQ(tests::TakeMessages(desktop_), std::vector<std::string>{"Unable to locate link 1"});
   file_.UpdateLink("0", 3, "9", "4", "d", 5);
   EXPECT_EQ(Saved("<Links>", "<Offset>"), "<Link Column=\"2\"/><Link Column=\"1\">");
-  EXPECT_EQ(Reloaded(), "0 \"T\"\"x\" (7 2 b 0 1 ) (9 4 d 5 3 f); ");
+  EXPECT_EQ(Reloaded(), "0 T \"x\" 1:7+2>b:0 3:9+4>d:5f\n");
 }
 
 TEST_F(EditingTest, RaisesTheVersionByATenth) {
@@ -137,8 +128,26 @@ TEST_F(EditingTest, RaisesTheVersionByATenth) {
     file_.IncrementVersion();
     return Saved("<Version>", "<");
   };
-  tests::ExpectEach(raised,
-                    {{"1.3", "1.4"}, {"1.9", "2"}, {"x", "0.1"}, {"-0.1", "0"}, {"1234.5", "1234.6"}});
+  const std::string most = "340282346638528859811704183484516925440";
+  tests::ExpectEach(raised, {{"1.3", "1.4"},
+                             {"1.9", "2"},
+                             {"x", "0.1"},
+                             {"nan", "0.1"},
+                             {"-0.1", "0"},
+                             {"1234.5", "1234.6"},
+                             {"1e39", most, "as much as single precision holds"},
+                             {most, most, "and no more"},
+                             {"-1e39", "-" + most}});
+}
+
+TEST_F(EditingTest, ThereIsNoPageBehindTheLastId) {
+  Open("<Root><AppInfo><LastPageID>2147483647</LastPageID></AppInfo><Document/></Root>");
+  const std::string bytes = SavedBytes();
+  EXPECT_THROW(file_.AppendPage("T", {"1"}), base::OutOfBoundsException);
+  EXPECT_THROW(file_.AddPage("T", "1"), base::OutOfBoundsException);
+  EXPECT_THROW(file_.AddPage("T", "1", "2"), base::OutOfBoundsException);
+  EXPECT_THROW(file_.AddPage("T", "1", "2", "3"), base::OutOfBoundsException);
+  EXPECT_EQ(SavedBytes(), bytes);
 }
 
 TEST_F(EditingTest, NothingIsEditedOutOfOrder) {
@@ -157,6 +166,7 @@ TEST_F(EditingTest, SavesNothingThatItCantOrThatBelongsElsewhere) {
   desktop_.files.AddFile("Quillmere.app/Contents/Data/b.xml", "<Root>");
   file_.SetFilename("b.xml");
   EXPECT_FALSE(file_.Init() || file_.Save()) << "the tree of one file went into another";
+  EXPECT_EQ(tests::TakeMessages(desktop_).back(), "Unable to parse b.xml");
 }
 
 TEST_F(EditingTest, OurOwnFilesComeBackAsTheyWere) {

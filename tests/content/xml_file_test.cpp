@@ -4,6 +4,7 @@
 
 #include "base/exceptions.h"
 #include "host/memory/memory_desktop.h"
+#include "support/messages.h"
 #include "support/texts.h"
 
 namespace quill::content {
@@ -19,12 +20,13 @@ struct XmlFileTest : testing::Test {
 
   // The last message when that fails.
   std::string Complaint(const std::string& text, const std::string& path = kPath) {
-    desktop_.messages.clear();
     EXPECT_FALSE(Opens(text, path)) << text.substr(0, 80) << " in " << path;
-    return desktop_.messages.empty() ? "" : desktop_.messages.back();
+    const std::vector<std::string> messages = tests::TakeMessages(desktop_);
+    return messages.empty() ? "" : messages.back();
   }
 
   host::MemoryDesktop desktop_;
+  const tests::NoUnseenMessages no_unseen_messages_{desktop_};
   zkXMLFileClass file_{"a.xml"};
 };
 
@@ -40,7 +42,6 @@ TEST_F(XmlFileTest, ReadsItsHead) {
   const auto document = std::make_shared<Document>();
   EXPECT_TRUE(file_.GetDocument(document) && file_.GetDocument(document));
   EXPECT_EQ(document->GetUbound(), 3) << "appends: a document is not emptied";
-  EXPECT_TRUE(desktop_.messages.empty());
 }
 
 TEST_F(XmlFileTest, SaysWhatIsWrong) {
@@ -56,6 +57,7 @@ TEST_F(XmlFileTest, SaysWhatIsWrong) {
 TEST_F(XmlFileTest, EndsTheProgramWithoutTheFileButNotWithoutTheBundle) {
   const std::string gone = "Unable to locate a.xml.  Program Aborting., quit";
   const auto complaint = [this](const std::string& present) {
+    desktop_.quit_code.reset();
     const std::string message = Complaint("", present);
     return message + (desktop_.quit_code.has_value() ? ", quit" : "");
   };

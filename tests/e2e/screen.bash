@@ -35,10 +35,14 @@ until_true() {
   return 1
 }
 
-# Sets `window` to the one with that title.
+# Sets `window` to the one with that title, when it comes.
 find_window() {
-  window=$(timeout 30 xdotool search --sync --onlyvisible --name "^$1\$" | head -n 1 || true)
-  [ -n "$window" ] || fail "no window \"$1\" came up"
+  for _ in $(seq 150); do
+    window=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1 || true)
+    [ -z "$window" ] || return 0
+    sleep 0.2
+  done
+  fail "no window \"$1\" came up"
 }
 
 has_no_window() { ! xdotool search --onlyvisible --name "^$1\$" >/dev/null 2>&1; }

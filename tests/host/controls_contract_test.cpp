@@ -48,7 +48,7 @@ struct ProbeWindow final : Window {
   Canvas& ground = AddControl<Canvas>(nullptr, base::Rect{0, 0, 200, 100});
   Probe& a = AddControl<Probe>(&ground, base::Rect{10, 10, 40, 20}, "a", log);
   Probe& b = AddControl<Probe>(&ground, base::Rect{60, 10, 40, 20}, "b", log);
-  Probe& inside_b = AddControl<Probe>(&b, base::Rect{10, 10, 20, 10}, "in b", log);
+  Probe& inside_b = AddControl<Probe>(&b, base::Rect{70, 20, 20, 10}, "in b", log);
   CheckBox& box = AddControl<CheckBox>(&ground, base::Rect{10, 50, 60, 20}, "box", TextFace());
 };
 
@@ -114,6 +114,21 @@ TEST_P(ControlContract, TheMouseReachesWhoeverLiesThere) {
     EXPECT_EQ(with_parent ? log_.substr(8) : log_, row.log) << row.story;
     under_test_->Move(199, 99);
   }
+}
+
+TEST_P(ControlContract, TheSecondPressOfADoubleClickIsNone) {
+  const std::string click = "a down 5,5\na up 5,5\n";
+  under_test_->Move(15, 15);
+  under_test_->Press();
+  under_test_->Release();
+  for (int again = 0; again < 2; ++again) {
+    under_test_->PressAgain();
+    under_test_->Release();
+  }
+  EXPECT_EQ(log_, "a enter\n" + click);
+  under_test_->Press();
+  under_test_->Release();
+  EXPECT_EQ(log_, "a enter\n" + click + click) << "after a pause it is a press again";
 }
 
 TEST_P(ControlContract, AControlMayChangeUnderTheMouse) {

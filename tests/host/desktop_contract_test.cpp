@@ -156,5 +156,14 @@ TEST(Desktop, NoneIsCurrentWithoutOne) {
   EXPECT_THROW(NewPicture(1, 1, 16), base::NilObjectException);
 }
 
+TEST_P(DesktopContract, TheFirstQuitCountsAndSilencesMessages) {
+  testing::internal::CaptureStderr();
+  Quit(3);
+  Quit(4);
+  MsgBox("too late");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+  EXPECT_EQ(under_test_->QuitCode(), 3);
+}
+
 }  // namespace
 }  // namespace quill::host

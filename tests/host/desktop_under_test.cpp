@@ -7,6 +7,7 @@
 #include <QWindow>
 #include <fstream>
 
+#include "host/application.h"
 #include "host/memory/memory_desktop.h"
 
 namespace quill::host {
@@ -21,9 +22,11 @@ class MemoryUnderTest final : public DesktopUnderTest {
   void AddFile(const std::string& path, const std::string& bytes) override { files_.AddFile(path, bytes); }
   void Move(std::int32_t x, std::int32_t y) override { Screen().MoveMouse(x, y); }
   void Press() override { Screen().Press(); }
+  void PressAgain() override { Screen().PressAgain(); }
   void Release() override { Screen().Release(); }
   void Settle() override { Screen().Paint(); }
   bool ShowsWindow() override { return Screen().shown && !Screen().closed; }
+  std::int32_t QuitCode() override { return desktop_.quit_code.value(); }
 
  private:
   MemoryScreen& Screen() { return *desktop_.screens.back(); }
@@ -54,9 +57,10 @@ void QtUnderTest::Move(std::int32_t x, std::int32_t y) {
   Settle();
 }
 
-void QtUnderTest::Send(QEvent::Type type, Qt::MouseButtons held) {
+void QtUnderTest::Send(QEvent::Type type, Qt::MouseButtons held, quint64 pause) {
   QWindow* const window = ShownWindow();
   QMouseEvent event(type, mouse_, window->mapToGlobal(mouse_), Qt::LeftButton, held, Qt::NoModifier);
+  event.setTimestamp(time_ += pause);
   QCoreApplication::sendEvent(window, &event);
   Settle();
 }
@@ -68,6 +72,11 @@ void QtUnderTest::Settle() {
 }
 
 bool QtUnderTest::ShowsWindow() { return ShownWindow() != nullptr; }
+
+std::int32_t QtUnderTest::QuitCode() {
+  Application application;
+  return desktop_.Run(application);
+}
 
 std::string DesktopName(const testing::TestParamInfo<Which>& which) {
   return which.param == Which::kMemory ? "Memory" : "Qt";

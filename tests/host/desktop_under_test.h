@@ -30,6 +30,9 @@ class DesktopUnderTest {
   // The left button and the pointer, in the window opened last.
   virtual void Move(std::int32_t x, std::int32_t y) = 0;
   virtual void Press() = 0;
+
+  // The second press of a double click.
+  virtual void PressAgain() = 0;
   virtual void Release() = 0;
 
   // Lets the desktop deliver what is waiting, painting included.
@@ -37,6 +40,9 @@ class DesktopUnderTest {
 
   // Whether a window is on the screen.
   virtual bool ShowsWindow() = 0;
+
+  // The status with which the program would end; it must have quit.
+  virtual std::int32_t QuitCode() = 0;
 };
 
 // What both desktops are told of the program. The pictures are the real ones.
@@ -62,15 +68,21 @@ class QtUnderTest final : public DesktopUnderTest {
 
   void AddFile(const std::string& path, const std::string& bytes) override;
   void Move(std::int32_t x, std::int32_t y) override;
-  void Press() override { Send(QEvent::MouseButtonPress, Qt::LeftButton); }
-  void Release() override { Send(QEvent::MouseButtonRelease, Qt::NoButton); }
+  void Press() override { Send(QEvent::MouseButtonPress, Qt::LeftButton, kPause); }
+  void PressAgain() override { Send(QEvent::MouseButtonPress, Qt::LeftButton, 1); }
+  void Release() override { Send(QEvent::MouseButtonRelease, Qt::NoButton, 1); }
   void Settle() override;
   bool ShowsWindow() override;
+  std::int32_t QuitCode() override;
 
  private:
   // Hands the event to the toolkit's window, which finds the widget for it as
   // it would for a mouse.
-  void Send(QEvent::Type type, Qt::MouseButtons held);
+  void Send(QEvent::Type type, Qt::MouseButtons held, quint64 pause);
+
+  // Milliseconds between clicks that don't belong together.
+  static constexpr quint64 kPause = 5000;
+  static inline quint64 time_ = kPause;
 
   static inline int argument_count_ = 1;
   static inline char name_[] = "host_test";

@@ -14,12 +14,11 @@ std::string Push(tests::Reader& reader, int mode, const std::string& filename) {
   if (mode == 5) reader.Viewer().ShowPage("1");
   const std::string before = reader.Viewer().Dump();
   reader.desktop.opened_documents.clear();
-  reader.desktop.messages.clear();
   EXPECT_TRUE(reader.Click({"doc"}));
   EXPECT_EQ(reader.Viewer().Dump(), before) << "the page stays, and the trail";
   std::string seen;
   for (const std::string& opened : reader.desktop.opened_documents) seen += opened;
-  for (const std::string& message : reader.desktop.messages) seen += message;
+  for (const std::string& message : reader.TakeMessages()) seen += message;
   return seen;
 }
 

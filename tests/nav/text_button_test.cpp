@@ -4,6 +4,7 @@
 
 #include "app/product.h"
 #include "host/memory/memory_desktop.h"
+#include "support/messages.h"
 
 namespace quill::nav {
 namespace {
@@ -29,6 +30,7 @@ class TextButtonTest : public testing::Test {
   }
 
   host::MemoryDesktop desktop_{app::Quillmere()};
+  const tests::NoUnseenMessages no_unseen_messages_{desktop_};
   app::App app_;
   ButtonWindow window_{app_};
   TextButton& button_ = window_.button;
@@ -46,6 +48,11 @@ TEST_F(TextButtonTest, DrawsItsLabelTwiceAndItsLineUnderIt) {
   EXPECT_EQ(Drawn()[1], "text \"Go\" 0,15 12 #ffff00");
   button_.Event_MouseExit();
   EXPECT_EQ(Drawn()[1], label);
+  button_.Event_MouseEnter();
+  button_.init();
+  Drawn();
+  button_.SetText("Go");
+  EXPECT_EQ(Drawn()[1], label) << "made ready anew, it doesn't know of the mouse";
 }
 
 TEST_F(TextButtonTest, TypesHaveTheirColours) {
@@ -106,10 +113,10 @@ TEST_F(TextButtonTest, WithoutALabelItIsOutOfUse) {
 TEST_F(TextButtonTest, WithoutMemoryItStaysHidden) {
   desktop_.out_of_pictures = true;
   button_.init();
-  EXPECT_TRUE(desktop_.messages.empty()) << "in its old size it keeps the picture that it has";
+  EXPECT_EQ(tests::TakeMessages(desktop_).size(), 0U) << "in its old size it keeps the picture that it has";
   button_.SetWidth(31);
   button_.init();
-  EXPECT_EQ(desktop_.messages, (std::vector<std::string>{"memory error, text button"}));
+  EXPECT_EQ(tests::TakeMessages(desktop_), std::vector<std::string>{"memory error, text button"});
   button_.SetText("Go");
   EXPECT_FALSE(button_.Visible());
 }

@@ -1,4 +1,5 @@
-// A whole reader on the desktop in memory, with content that a test gives.
+// A whole reader on the desktop in memory, with content that a test gives. It
+// fails the test that leaves a message unseen.
 #pragma once
 
 #include <optional>
@@ -9,6 +10,7 @@
 #include "host/memory/memory_desktop.h"
 #include "reader/program.h"
 #include "support/content_xml.h"
+#include "support/messages.h"
 
 namespace quill::tests {
 
@@ -51,9 +53,12 @@ class Reader {
     return true;
   }
 
+  std::vector<std::string> TakeMessages() { return tests::TakeMessages(desktop); }
+
   host::MemoryDesktop desktop{app::Quillmere()};
 
  private:
+  const NoUnseenMessages no_unseen_messages_{desktop};
   std::optional<Program> program_;
   app::Modes modes_;
 };

@@ -19,8 +19,12 @@ class MemoryDesktop final : public Desktop {
  public:
   explicit MemoryDesktop(Product given = {}) : product(std::move(given)) {}
 
-  void MsgBox(const std::string& text) override { messages.push_back(text); }
-  void Quit(std::int32_t code) override { quit_code = code; }
+  void MsgBox(const std::string& text) override {
+    if (!quit_code) messages.push_back(text);
+  }
+  void Quit(std::int32_t code) override {
+    if (!quit_code) quit_code = code;
+  }
   std::shared_ptr<FolderItem> ApplicationFolder() override;
   std::shared_ptr<FolderItem> PreferencesFolder() override;
   bool OpenDocument(const std::string& application, const std::string& path) override;

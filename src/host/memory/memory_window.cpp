@@ -48,6 +48,7 @@ class MemoryCanvasPeer final : public MemoryPeer<CanvasPeer> {
   void SetBackdrop(const std::shared_ptr<Picture>& backdrop) override { control_.backdrop = backdrop; }
   Graphics& GetGraphics() override { return *control_.graphics; }
   void SetLabel(const std::string& label) override { control_.text = label; }
+  void SetPurpose(const Purpose& purpose) override { control_.purpose = purpose; }
 };
 
 class MemoryTextPeer final : public MemoryPeer<StaticTextPeer> {

@@ -23,6 +23,7 @@ struct MemoryControl {
   bool visible = true;
   bool enabled = true;
   std::string text;  // of a text, check box or field; the label of a canvas
+  Purpose purpose;   // of a canvas
   bool checked = false;
   Canvas* canvas = nullptr;
   CheckBox* box = nullptr;
@@ -38,7 +39,9 @@ class MemoryScreen {
   WindowStyle style;
   Window* window = nullptr;  // null when it has gone
   bool shown = false;        // and not hidden since
+  bool minimised = false;    // by the user
   bool closed = false;       // the window has gone
+  Reading reading;           // what the window says
 
   // Controls in the order they were made, the last on top, whoever their parent
   // is.
@@ -51,6 +54,9 @@ class MemoryScreen {
   // Moves the mouse to that point of the window, from wherever it was.
   void MoveMouse(std::int32_t x, std::int32_t y);
   void Press();
+
+  // The second press of a double click, which is none; what follows is its release.
+  void PressAgain() { held_ = nullptr; }
   void Release();
   void Click(std::int32_t x, std::int32_t y);
 
@@ -103,7 +109,11 @@ class MemoryWindow final : public WindowPeer {
     screen_->frame.left = left;
     screen_->frame.top = top;
   }
-  void Show() override { screen_->shown = true; }
+  void SetReading(const Reading& reading) override { screen_->reading = reading; }
+  void Show() override {
+    screen_->shown = true;
+    screen_->minimised = false;
+  }
   void Hide() override { screen_->shown = false; }
 
  private:

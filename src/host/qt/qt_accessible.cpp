@@ -4,35 +4,89 @@
 #include <QAccessibleWidget>
 
 #include "host/qt/qt_canvas.h"
-#include "host/qt/qt_controls.h"
+#include "host/qt/qt_window.h"
 
 namespace quill::host {
 namespace {
 
+// A canvas that can be pressed: a link, or a button where it is none.
 class AccessibleCanvas final : public QAccessibleWidget {
  public:
   explicit AccessibleCanvas(CanvasWidget& canvas) : QAccessibleWidget(&canvas), canvas_(canvas) {}
 
-  QAccessible::Role role() const override { return Pressable() ? QAccessible::Button : QAccessible::Pane; }
+  QAccessible::Role role() const override {
+    switch (canvas_.GetPurpose().kind) {
+      case Purpose::Kind::kNone:
+        return canvas_.Name().isEmpty() ? QAccessible::Pane : QAccessible::Button;
+      case Purpose::Kind::kButton:
+        return QAccessible::Button;
+      default:
+        return QAccessible::Link;
+    }
+  }
+
+  QString text(QAccessible::Text which) const override {
+    if (which == QAccessible::Name) return canvas_.Name();
+    return which == QAccessible::Description ? LineOfText(canvas_.GetPurpose().leads_to) : QString();
+  }
+
+  // Where it stands in what is read, not among the widgets.
+  QAccessibleInterface* parent() const override {
+    auto* const window = dynamic_cast<WindowWidget*>(canvas_.window());
+    const AccessibleReading* const reading = window != nullptr ? window->Accessible() : nullptr;
+    QAccessibleInterface* const holder = reading != nullptr ? reading->ParentOf(canvas_) : nullptr;
+    return holder != nullptr ? holder : QAccessible::queryAccessibleInterface(window);
+  }
+  int childCount() const override { return 0; }
 
   QStringList actionNames() const override {
-    return Pressable() && canvas_.isEnabled() ? QStringList(pressAction()) : QStringList();
+    return canvas_.IsPressable() ? QStringList(pressAction()) : QStringList();
   }
   void doAction(const QString& action) override {
-    if (action == pressAction() && Pressable()) canvas_.Press();
+    if (action == pressAction()) canvas_.Press();
   }
 
  private:
-  bool Pressable() const { return !canvas_.Label().isEmpty(); }
-
   CanvasWidget& canvas_;
+};
+
+// A window with what it says in it, instead of its widgets.
+class AccessibleWindow final : public QAccessibleWidget {
+ public:
+  explicit AccessibleWindow(WindowWidget& window)
+      : QAccessibleWidget(&window, QAccessible::Window), window_(window) {}
+
+  QString text(QAccessible::Text which) const override {
+    const QString& title = window_.GetReading().title;
+    if (which != QAccessible::Name || title.isEmpty()) return QAccessibleWidget::text(which);
+    return title + QLatin1String(" - ") + window_.windowTitle();
+  }
+  int childCount() const override {
+    return Reading() == nullptr ? QAccessibleWidget::childCount()
+                                : static_cast<int>(Reading()->Children().size());
+  }
+  QAccessibleInterface* child(int index) const override {
+    if (Reading() == nullptr) return QAccessibleWidget::child(index);
+    const auto children = Reading()->Children();
+    const bool known = index >= 0 && index < static_cast<int>(children.size());
+    return known ? children[static_cast<std::size_t>(index)] : nullptr;
+  }
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    if (Reading() == nullptr) return QAccessibleWidget::indexOfChild(child);
+    const auto children = Reading()->Children();
+    const auto found = std::find(children.begin(), children.end(), child);
+    return found == children.end() ? -1 : static_cast<int>(found - children.begin());
+  }
+
+ private:
+  const AccessibleReading* Reading() const { return window_.Accessible(); }
+
+  WindowWidget& window_;
 };
 
 QAccessibleInterface* Accessible(const QString& /*class_name*/, QObject* object) {
   if (auto* const canvas = dynamic_cast<CanvasWidget*>(object)) return new AccessibleCanvas(*canvas);
-  if (auto* const text = dynamic_cast<TextWidget*>(object)) {
-    return new QAccessibleWidget(text, QAccessible::StaticText);
-  }
+  if (auto* const window = dynamic_cast<WindowWidget*>(object)) return new AccessibleWindow(*window);
   return nullptr;
 }
 

@@ -1,5 +1,4 @@
-// What the controls say of themselves to a screen reader: a canvas with a label
-// is a button that can be pressed, a line of text is text.
+// What windows and canvases say of themselves to a screen reader.
 #pragma once
 
 namespace quill::host {

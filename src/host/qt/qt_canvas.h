@@ -1,8 +1,10 @@
 // A canvas as a widget: what the toolkit delivers becomes the canvas's events, and
 // what the canvas draws stays until it draws over it.
+//
+// From below to above it shows its backdrop, its own drawing and its children.
+// Where none was drawn it shows what lies below.
 #pragma once
 
-#include <QImage>
 #include <QString>
 #include <QWidget>
 #include <memory>
@@ -10,22 +12,30 @@
 
 #include "host/controls.h"
 #include "host/qt/qt_graphics.h"
+#include "host/qt/qt_scaled.h"
 
 namespace quill::host {
 
-// A canvas on the screen: its backdrop, above it the layer of its own drawing,
-// above that its children. Where none was drawn it shows what lies below.
-class CanvasWidget final : public QWidget, private Surface, private PictureViewer {
+class CanvasWidget final : public QWidget, public ScaledWidget, private PictureViewer {
  public:
-  CanvasWidget(Canvas& canvas, QtMetrics& metrics, QWidget* parent);
+  CanvasWidget(Canvas& canvas, QtMetrics& metrics, const QtLook& look, QWidget* parent);
   ~CanvasWidget() override;
 
   Graphics& GetGraphics() { return graphics_; }
-  const QString& Label() const { return label_; }
+
+  // The label without the marks that only the eye needs: no blanks around it, no
+  // "> " of the trail before it.
+  const QString& Name() const { return name_; }
+  const Purpose& GetPurpose() const { return purpose_; }
+
+  // Whether it can be pressed now.
+  bool IsPressable() const;
 
   void Place(const base::Rect& frame);
+  void Rescale() override;
   void SetBackdrop(const std::shared_ptr<Picture>& backdrop);
   void SetLabel(const std::string& label);
+  void SetPurpose(const Purpose& purpose);
 
   // A whole click in its middle, for those who don't use the mouse.
   void Press();
@@ -37,26 +47,29 @@ class CanvasWidget final : public QWidget, private Surface, private PictureViewe
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void enterEvent(QEnterEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
-  QImage* Pixels() override;
-  void Changed() override { PictureChanged(); }
   void PictureChanged() override;
 
   void RaisePaint();
+  void PaintUnderline(QPainter& painter) const;
   void UpdateHoverSoon();
   void UpdateHover();
-  void UpdateCursor();
+  void UpdateUse();
 
   Canvas* canvas_;  // null when retired
+  base::Rect frame_;
+  QtDrawing drawing_;
   QtGraphics graphics_;
-  QImage layer_;  // null until drawn on
   std::shared_ptr<QtPicture> backdrop_;
-  QString label_;
+  QString name_;
+  Purpose purpose_;
   bool painting_ = false;
   bool held_ = false;  // MouseUp is to follow
   bool mouse_inside_ = false;

@@ -12,16 +12,20 @@
 #include <string>
 
 #include "host/controls.h"
+#include "host/qt/qt_canvas.h"
+#include "host/qt/qt_scaled.h"
 #include "host/qt/qt_text.h"
 
 namespace quill::host {
 
 // One line of text at the top of its frame. The mouse goes through it.
-class TextWidget final : public QWidget {
+class TextWidget final : public QWidget, public ScaledWidget {
  public:
-  TextWidget(const TextStyle& style, QtMetrics& metrics, QWidget* parent);
+  TextWidget(const TextStyle& style, QtMetrics& metrics, const QtLook& look, QWidget* parent);
 
   void SetText(const std::string& text);
+  void Place(const base::Rect& frame);
+  void Rescale() override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -32,11 +36,13 @@ class TextWidget final : public QWidget {
   TextStyle style_;
   QtMetrics& metrics_;
   std::string text_;
+  base::Rect frame_;
 };
 
 // `parent` is the widget that the new control lies in.
-std::unique_ptr<CanvasPeer> NewCanvasPeer(Canvas& canvas, QtMetrics& metrics, QWidget& parent);
-std::unique_ptr<StaticTextPeer> NewTextPeer(const TextStyle& style, QtMetrics& metrics, QWidget& parent);
+std::unique_ptr<CanvasPeer> NewCanvasPeer(CanvasWidget& widget);
+std::unique_ptr<StaticTextPeer> NewTextPeer(const TextStyle& style, QtMetrics& metrics, const QtLook& look,
+                                            QWidget& parent);
 std::unique_ptr<CheckBoxPeer> NewCheckBoxPeer(CheckBox& box, const std::string& caption, const TextFace& face,
                                               QtMetrics& metrics, QWidget& parent);
 

@@ -3,9 +3,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QMessageBox>
-#include <QPainter>
 #include <QStandardPaths>
-#include <QSvgRenderer>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -23,6 +21,7 @@
 #include "host/qt/qt_graphics.h"
 #include "host/qt/qt_signals.h"
 #include "host/qt/qt_text.h"
+#include "host/qt/qt_view.h"
 #include "host/qt/qt_window.h"
 
 // The pictures lie in a static library, whose resources nobody registers
@@ -62,12 +61,41 @@ bool HasDisplay() {
   return std::any_of(kVariables.begin(), kVariables.end(), IsSet);
 }
 
+// The toolkit ends the process with an abort when nobody serves the display that
+// the environment names. While this lives, it ends with a line and status 1.
+class DisplayGuard {
+ public:
+  DisplayGuard() : before_(qInstallMessageHandler(Take)) {}
+  ~DisplayGuard() { Release(); }
+  DisplayGuard(const DisplayGuard&) = delete;
+  DisplayGuard& operator=(const DisplayGuard&) = delete;
+
+  void Release() {
+    if (before_ != kReleased) qInstallMessageHandler(std::exchange(before_, kReleased));
+  }
+
+ private:
+  static void Take(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+    if (type != QtFatalMsg) return;
+    const char* const display = std::getenv("DISPLAY");
+    std::cerr << "The display can't be opened" << (display ? ": " + std::string(display) : "") << ". "
+              << text.section(QLatin1Char('\n'), 0, 0).toStdString() << std::endl;
+    std::_Exit(1);
+  }
+  static void Nothing(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*text*/) {}
+  static constexpr QtMessageHandler kReleased = Nothing;
+
+  QtMessageHandler before_;
+};
+
 // The toolkit's application object goes last, the metrics hold its fonts.
 struct QtDesktop::Parts {
   Parts(int& argc, char** argv, Product given_product, Options given)
       : product(std::move(given_product)),
         options(Prepared(std::move(given))),
-        toolkit(argc, argv, [this](const std::string& what) { Fail(what); }) {
+        toolkit(argc, argv, [this](const std::string& what) { Fail(what); }),
+        view(options.screen == Screen::kNone ? std::filesystem::path() : ViewFile()) {
+    guard.Release();
     RegisterPictures();
     QApplication::setApplicationName(QString::fromStdString(product.name));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -81,8 +109,10 @@ struct QtDesktop::Parts {
 
   Product product;
   Options options;
+  DisplayGuard guard;
   GuardedApplication toolkit;
   QtMetrics metrics;
+  QtView view;
   std::optional<int> quit_code;
   bool has_commands = false;
   bool failed = false;
@@ -94,6 +124,7 @@ void QtDesktop::Parts::Quit(int code) {
 }
 
 void QtDesktop::Parts::Say(const std::string& text) const {
+  if (quit_code) return;
   if (options.messages == Messages::kStandardError) {
     std::cerr << base::MacRomanToUtf8(text) << std::endl;
   } else {
@@ -157,36 +188,26 @@ std::shared_ptr<FolderItem> QtDesktop::PreferencesFolder() {
 
 bool QtDesktop::OpenDocument(const std::string& application, const std::string& path) {
   const auto companion = parts_->product.companions.find(application);
-  return StartApplication(companion == parts_->product.companions.end() ? "" : companion->second, path);
+  return StartApplication(companion == parts_->product.companions.end() ? "" : companion->second, path,
+                          [this](const std::string& what) { parts_->Say(base::Utf8ToMacRoman(what)); });
 }
 
 FontMetrics& QtDesktop::Metrics() { return parts_->metrics; }
 
 std::shared_ptr<Picture> QtDesktop::NewPicture(std::int32_t width, std::int32_t height,
                                                std::int32_t /*depth*/) {
-  QImage image = NewImage(width, height, Qt::black);
-  if (image.isNull()) return nullptr;
-  return std::make_shared<QtPicture>(parts_->metrics, std::move(image), width, height);
+  return IsPictureSize(width, height) ? NewDrawnPicture(parts_->metrics, width, height) : nullptr;
 }
 
 std::shared_ptr<Picture> QtDesktop::StoredPicture(std::int32_t id) {
   const auto name = parts_->product.pictures.find(id);
   if (name == parts_->product.pictures.end()) return nullptr;
-  const QString path = QStringLiteral(":/pictures/%1.svg").arg(QString::fromStdString(name->second));
-  QSvgRenderer drawing;
-  if (!QFile::exists(path) || !drawing.load(path)) return nullptr;
-  const QSize size = drawing.defaultSize();
-  QImage image = NewImage(size.width(), size.height(), Qt::transparent);
-  if (image.isNull()) return nullptr;
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
-  drawing.render(&painter, QRectF(QPointF(0, 0), size));
-  painter.end();
-  return std::make_shared<QtPicture>(parts_->metrics, std::move(image), size.width(), size.height());
+  QFile file(QStringLiteral(":/pictures/%1.svg").arg(QString::fromStdString(name->second)));
+  return file.open(QIODevice::ReadOnly) ? NewStoredPicture(parts_->metrics, file.readAll()) : nullptr;
 }
 
 std::unique_ptr<WindowPeer> QtDesktop::NewWindow(const WindowStyle& style, Window& window) {
-  return std::make_unique<QtWindow>(style, window, parts_->metrics, [this] {
+  return std::make_unique<QtWindow>(style, window, parts_->metrics, parts_->view, [this] {
     if (parts_->has_commands) Quit(0);
   });
 }

@@ -1,12 +1,15 @@
 #include "host/qt/qt_edit_field.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QStringDecoder>
 #include <QTextDocument>
+#include <algorithm>
+#include <cmath>
 
 #include "base/text_converter.h"
-#include "host/qt/qt_graphics.h"
 #include "host/qt/qt_peer.h"
+#include "host/qt/qt_values.h"
 
 namespace quill::host {
 namespace {
@@ -51,9 +54,11 @@ class QtEditField final : public QtPeer<EditFieldPeer, EditWidget> {
 
 }  // namespace
 
-EditWidget::EditWidget(const TextStyle& style, base::Color back_color, QtMetrics& metrics, QWidget* parent)
-    : QPlainTextEdit(parent) {
-  setFont(metrics.FontOf(style.face));
+EditWidget::EditWidget(const TextStyle& style, base::Color back_color, QtMetrics& metrics, const QtLook& look,
+                       QWidget* parent)
+    : QPlainTextEdit(parent), ScaledWidget(look), font_(metrics.FontOf(style.face)) {
+  setAccessibleName(parent->window()->windowTitle());
+  Rescale();
   QPalette colors = palette();
   colors.setColor(QPalette::Base, ToQColor(back_color));
   colors.setColor(QPalette::Text, ToQColor(style.color));
@@ -70,6 +75,22 @@ void EditWidget::Place(const base::Rect& frame) {
   margins_ = QMargins(place.left(), place.top(), room.width() - place.right() - 1,
                       room.height() - place.bottom() - 1);
   setGeometry(place);
+}
+
+void EditWidget::Rescale() {
+  QFont scaled = font_;
+  scaled.setPixelSize(std::max(1, static_cast<int>(std::lround(font_.pixelSize() * Look().text_scale))));
+  setFont(scaled);
+}
+
+// No tab goes in by the keyboard; with nowhere to move the focus, the key does
+// nothing. The commands of the window come before those of the field.
+void EditWidget::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab || event->key() == Qt::Key_Escape) {
+    event->ignore();
+  } else {
+    QPlainTextEdit::keyPressEvent(event);
+  }
 }
 
 bool EditWidget::eventFilter(QObject* watched, QEvent* event) {
@@ -96,8 +117,8 @@ std::string EditWidget::Bytes() const {
 }
 
 std::unique_ptr<EditFieldPeer> NewEditPeer(const TextStyle& style, base::Color back_color, QtMetrics& metrics,
-                                           QWidget& parent) {
-  return std::make_unique<QtEditField>(new EditWidget(style, back_color, metrics, &parent));
+                                           const QtLook& look, QWidget& parent) {
+  return std::make_unique<QtEditField>(new EditWidget(style, back_color, metrics, look, &parent));
 }
 
 }  // namespace quill::host

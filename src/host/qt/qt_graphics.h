@@ -1,50 +1,36 @@
-// Pens and pictures on pixels.
-//
-// Pictures and layers are held at the density of the densest screen, so that
-// text is crisp on each; all coordinates stay in the program's own pixels,
-// from the upper left corner.
+// Pens and pictures. What a pen draws is kept as a list (`QtDrawing`) and turned
+// into pixels when it is shown, at the scale and in the colours of the window that
+// shows it.
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "base/geometry.h"
 #include "host/graphics.h"
+#include "host/qt/qt_drawing.h"
+#include "host/qt/qt_look.h"
 #include "host/qt/qt_text.h"
-#include "host/qt/qt_values.h"
 
 class QPainter;
 
 namespace quill::host {
 
-// An image of that many of the program's pixels, filled with `color`; null if
-// a side is not above 0, or there are too many pixels in all.
-QImage NewImage(std::int32_t width, std::int32_t height, const QColor& color);
+// Whether a picture of that size can be made: both sides above 0, and its pixels
+// on the densest screen not too many for memory.
+bool IsPictureSize(std::int32_t width, std::int32_t height);
 
-// Paints `image` with its upper left corner at the painter's origin, moved by
-// less than a pixel where that spares the image from being resampled.
-void PaintImage(QPainter& painter, const QImage& image);
-
-// What a pen draws on.
-class Surface {
- public:
-  virtual ~Surface() = default;
-
-  // Null if there is nothing to draw on at the moment.
-  virtual QImage* Pixels() = 0;
-
-  // Something was drawn.
-  virtual void Changed() = 0;
-};
-
-// The pen of `surface`, which owns it. What lies outside the surface costs
-// nothing, however far out it lies.
+// A pen on a list, which it doesn't own. `changed` is called when something was
+// drawn.
 class QtGraphics final : public Graphics {
  public:
-  QtGraphics(QtMetrics& metrics, Surface& surface)
-      : Graphics(metrics), metrics_(metrics), surface_(surface) {}
+  QtGraphics(QtMetrics& metrics, QtDrawing& drawing, std::function<void()> changed)
+      : Graphics(metrics), drawing_(drawing), changed_(std::move(changed)) {}
 
   void DrawString(std::string_view text, std::int32_t x, std::int32_t y) override;
   void FillRect(const base::Rect& area) override;
@@ -52,8 +38,8 @@ class QtGraphics final : public Graphics {
   void DrawPicture(const Picture& picture, std::int32_t x, std::int32_t y) override;
 
  private:
-  QtMetrics& metrics_;
-  Surface& surface_;
+  QtDrawing& drawing_;
+  std::function<void()> changed_;
 };
 
 // Who shows a picture, and wants to know when it changes.
@@ -63,30 +49,30 @@ class PictureViewer {
   virtual void PictureChanged() = 0;
 };
 
-class QtPicture final : public Picture, private Surface {
+// A picture that the toolkit can paint.
+class QtPicture : public Picture {
  public:
-  // `image` must not be null. `width` and `height` are its size in the
-  // program's pixels, which the image may exceed by a fraction of one.
-  QtPicture(QtMetrics& metrics, QImage image, std::int32_t width, std::int32_t height);
+  // Paints the picture with its upper left corner at the painter's origin.
+  virtual void Paint(QPainter& painter, const QtLook& look) = 0;
 
-  std::int32_t Width() const override { return width_; }
-  std::int32_t Height() const override { return height_; }
-  Graphics* GetGraphics() override { return &graphics_; }
-  const QImage& Image() const { return image_; }
+  // What it shows now, for others to keep whatever becomes of it.
+  virtual std::shared_ptr<Painted> Content() const = 0;
 
   // A viewer stays until it is removed, which must come before its end.
   void AddViewer(PictureViewer& viewer) { viewers_.push_back(&viewer); }
   void RemoveViewer(PictureViewer& viewer) { std::erase(viewers_, &viewer); }
 
- private:
-  QImage* Pixels() override { return &image_; }
-  void Changed() override;
+ protected:
+  void Changed();
 
-  QImage image_;
-  std::int32_t width_;
-  std::int32_t height_;
-  QtGraphics graphics_;
+ private:
   std::vector<PictureViewer*> viewers_;
 };
+
+// A new picture: black, with what the program draws on it.
+std::shared_ptr<QtPicture> NewDrawnPicture(QtMetrics& metrics, std::int32_t width, std::int32_t height);
+
+// A picture from an SVG document, in the size that it states; null if it is none.
+std::shared_ptr<QtPicture> NewStoredPicture(QtMetrics& metrics, const QByteArray& svg);
 
 }  // namespace quill::host

@@ -4,7 +4,7 @@
 #include <QWidget>
 
 #include "base/geometry.h"
-#include "host/qt/qt_graphics.h"
+#include "host/qt/qt_values.h"
 
 namespace quill::host {
 

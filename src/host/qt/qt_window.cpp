@@ -2,11 +2,11 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QPixmap>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "host/controls.h"
@@ -21,6 +21,12 @@ namespace {
 constexpr auto kDialog = WindowStyle::Frame::kDialog;
 constexpr int kSmallest = 64;  // side of a window that can be resized
 
+// What a window manager puts around a window, as long as it isn't known.
+constexpr QMargins kUsualFrame(4, 32, 4, 4);
+
+// The ground beside the page, where a window fills the screen.
+constexpr base::Color kGround = base::RGB(24, 24, 24);
+
 Qt::WindowFlags FlagsOf(const WindowStyle& style) {
   Qt::WindowFlags flags = style.frame == kDialog ? Qt::Dialog : Qt::Window;
   flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
@@ -29,18 +35,27 @@ Qt::WindowFlags FlagsOf(const WindowStyle& style) {
   return flags;
 }
 
-bool IsQuitKey(const QKeyEvent& event) {
-  const bool ctrl_q = event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_Q;
-  return ctrl_q || event.matches(QKeySequence::Quit);
+void SetGround(QWidget& widget, base::Color color) {
+  QPalette colors = widget.palette();
+  colors.setColor(QPalette::Window, ToQColor(color));
+  widget.setPalette(colors);
+  widget.setAutoFillBackground(true);
 }
 
-// Puts `widget`, not yet shown, in the middle of `place`, its upper left corner
-// inside whatever its size. A window manager may know better; where there is
-// none the corner of the screen would be next.
+// Puts `widget` in the middle of `place`, its upper left corner inside whatever
+// its size. A window manager may know better; where there is none the corner of
+// the screen would be next.
 void Center(QWidget& widget, const QRect& place) {
   QRect frame(QPoint(0, 0), widget.size());
   frame.moveCenter(place.center());
   widget.move(std::max(frame.left(), place.left()), std::max(frame.top(), place.top()));
+}
+
+bool IsOnSomeScreen(const QRect& place) {
+  const QList<QScreen*> screens = QGuiApplication::screens();
+  return std::any_of(screens.begin(), screens.end(), [&place](const QScreen* screen) {
+    return screen->availableGeometry().contains(place.center());
+  });
 }
 
 // The main window, if it is on the screen.
@@ -60,22 +75,33 @@ void KeepAbove(QWidget& dialog, const QWidget& owner) {
 
 }  // namespace
 
-WindowWidget::WindowWidget(const WindowStyle& style, Window& window, std::function<void()> quit_command)
+WindowWidget::WindowWidget(const WindowStyle& style, Window& window, QtView& view,
+                           std::function<void()> quit_command)
     : QWidget(nullptr, FlagsOf(style)),
       style_(style),
       window_(&window),
-      quit_command_(std::move(quit_command)) {
-  QPalette colors = palette();
-  colors.setColor(QPalette::Window, ToQColor(style.back_color));
-  setPalette(colors);
+      view_(view),
+      quit_command_(std::move(quit_command)),
+      pane_(new QWidget(this)),
+      focus_(*pane_) {
+  SetGround(*pane_, style.back_color);
   setWindowTitle(LineOfText(style.title));
   resize(style.width, style.height);
-  if (style.resizeable) {
-    setMinimumSize(kSmallest, kSmallest);
-  } else {
-    setFixedSize(style.width, style.height);
-  }
+  if (style.resizeable) setMinimumSize(kSmallest, kSmallest);
+  Relayout();
   Center(*this, screen()->availableGeometry());
+  const auto kept = style.frame == kDialog ? std::nullopt : view_.PlaceOf(windowTitle());
+  if (kept && IsOnSomeScreen(*kept)) {
+    move(kept->topLeft());
+    if (style.resizeable) resize(kept->size());
+  }
+  view_.AddListener(*this);
+  qApp->installEventFilter(this);
+}
+
+WindowWidget::~WindowWidget() {
+  view_.RemoveListener(*this);
+  accessible_.reset();
 }
 
 bool WindowWidget::IsMain() const { return style_.frame != kDialog && !style_.close_button; }
@@ -84,6 +110,119 @@ void WindowWidget::Retire() {
   window_ = nullptr;
   hide();
   deleteLater();
+}
+
+// The largest scale at which the pane fits into `room`.
+double WindowWidget::ScaleToFit(const QSize& room) const {
+  return std::min(static_cast<double>(room.width()) / style_.width,
+                  static_cast<double>(room.height()) / style_.height);
+}
+
+// How large the content may be, so that the window lies on its screen whole.
+QSize WindowWidget::RoomOnScreen() const {
+  const QWindow* const handle = windowHandle();
+  const QMargins frame = handle != nullptr && isVisible() ? handle->frameMargins() : kUsualFrame;
+  return screen()->availableGeometry().marginsRemoved(frame).size();
+}
+
+// Takes scale and colours from the view and the room there is, and shows
+// everything so.
+void WindowWidget::Relayout() {
+  const double zoom = view_.Zoom() / 100.0;
+  QtLook look{.scale = 1, .text_scale = zoom, .high_contrast = view_.HighContrast()};
+  if (!style_.resizeable) {
+    look.scale = FillsScreen() ? ScaleToFit(size()) : std::min(zoom, ScaleToFit(RoomOnScreen()));
+    // A screen may be small, but it is there.
+    look.scale = std::max(look.scale, 0.1);
+    if (!FillsScreen()) TakeSize(look.scale);
+  }
+  SetGround(*this, FillsScreen() ? kGround : style_.back_color);
+  const bool changed = look != look_;
+  look_ = look;
+  PlacePane();
+  if (!changed) return;
+  for (QWidget* const widget : pane_->findChildren<QWidget*>()) {
+    if (auto* const scaled = dynamic_cast<ScaledWidget*>(widget)) scaled->Rescale();
+  }
+  focus_.Rescale();
+  if (isVisible() && !FillsScreen()) KeepOnScreen();
+}
+
+void WindowWidget::TakeSize(double scale) {
+  setFixedSize(static_cast<int>(std::floor(style_.width * scale + 1e-9)),
+               static_cast<int>(std::floor(style_.height * scale + 1e-9)));
+}
+
+void WindowWidget::PlacePane() {
+  QRect place = rect();
+  if (FillsScreen() && !style_.resizeable) {
+    place.setSize(QSizeF(style_.width * look_.scale, style_.height * look_.scale).toSize());
+    place.moveCenter(rect().center());
+  }
+  pane_->setGeometry(place);
+}
+
+// Moves the window so far that no edge lies outside its screen.
+void WindowWidget::KeepOnScreen() {
+  const QRect free = screen()->availableGeometry();
+  const QRect frame = frameGeometry();
+  QPoint corner = frame.topLeft();
+  corner.setX(std::max(free.left(), std::min(corner.x(), free.right() + 1 - frame.width())));
+  corner.setY(std::max(free.top(), std::min(corner.y(), free.bottom() + 1 - frame.height())));
+  if (corner != frame.topLeft()) move(corner);
+}
+
+void WindowWidget::KeepPlace() {
+  if (style_.frame != kDialog && isVisible() && !FillsScreen() && !isMinimized())
+    view_.KeepPlace(windowTitle(), QRect(pos(), size()));
+}
+
+void WindowWidget::FollowScreen() {
+  QScreen* const now = screen();
+  connect(now, &QScreen::availableGeometryChanged, this, &WindowWidget::Relayout, Qt::UniqueConnection);
+  Relayout();
+}
+
+base::Rect WindowWidget::Frame() const {
+  const QPoint corner = pane_->mapToGlobal(QPoint(0, 0));
+  const auto unscaled = [this](int length) {
+    return static_cast<std::int32_t>(std::lround(length / look_.scale));
+  };
+  if (style_.resizeable) return {corner.x(), corner.y(), pane_->width(), pane_->height()};
+  return {unscaled(corner.x()), unscaled(corner.y()), style_.width, style_.height};
+}
+
+void WindowWidget::MoveTo(std::int32_t left, std::int32_t top) {
+  const QPoint corner(static_cast<int>(std::lround(left * look_.scale)),
+                      static_cast<int>(std::lround(top * look_.scale)));
+  setGeometry(QRect(corner, size()));
+  if (!IsOnSomeScreen(geometry())) Center(*this, screen()->availableGeometry());
+}
+
+void WindowWidget::SetReading(QtReading reading) {
+  accessible_.reset();
+  reading_ = std::move(reading);
+  focus_.SetReading(reading_);
+  if (!QAccessible::isActive()) return;
+  QAccessibleEvent renamed(this, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&renamed);
+}
+
+const AccessibleReading* WindowWidget::Accessible() {
+  if (!accessible_ && !reading_.IsEmpty()) accessible_ = std::make_unique<AccessibleReading>(*this, reading_);
+  return accessible_.get();
+}
+
+void WindowWidget::BringUp() {
+  const bool shown_already = isVisible();
+  if (windowType() == Qt::Dialog) {
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    if (const auto* const owner = shown_already ? nullptr : MainWindow()) KeepAbove(*this, *owner);
+  }
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  if (shown_already) raise();  // a new one comes in front by itself
+  if (windowType() != Qt::Dialog) activateWindow();
 }
 
 void WindowWidget::CloseWindow() {
@@ -100,33 +239,53 @@ void WindowWidget::closeEvent(QCloseEvent* event) {
   CloseWindow();
 }
 
-void WindowWidget::keyPressEvent(QKeyEvent* event) {
-  if (IsQuitKey(*event)) {
-    quit_command_();
-  } else if (style_.frame == kDialog && event->key() == Qt::Key_Escape) {
-    CloseWindow();
-  } else {
-    QWidget::keyPressEvent(event);
-  }
+void WindowWidget::resizeEvent(QResizeEvent* /*event*/) {
+  if (FillsScreen()) Relayout();
+  PlacePane();
 }
 
-QtWindow::QtWindow(const WindowStyle& style, Window& window, QtMetrics& metrics,
+// The screen and the frame are known only now.
+void WindowWidget::showEvent(QShowEvent* /*event*/) {
+  connect(windowHandle(), &QWindow::screenChanged, this, &WindowWidget::FollowScreen, Qt::UniqueConnection);
+  QMetaObject::invokeMethod(this, &WindowWidget::FollowScreen, Qt::QueuedConnection);
+}
+
+bool WindowWidget::event(QEvent* event) {
+  if (event->type() == QEvent::Move || event->type() == QEvent::Resize) KeepPlace();
+  if (event->type() == QEvent::WindowStateChange) {
+    QMetaObject::invokeMethod(this, &WindowWidget::Relayout, Qt::QueuedConnection);
+  }
+  return QWidget::event(event);
+}
+
+// Any press of the mouse in the window tells that the mouse is used.
+bool WindowWidget::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress) {
+    auto* const widget = qobject_cast<QWidget*>(watched);
+    if (widget != nullptr && widget->window() == this) focus_.MouseUsed();
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+QtWindow::QtWindow(const WindowStyle& style, Window& window, QtMetrics& metrics, QtView& view,
                    std::function<void()> quit_command)
-    : widget_(new WindowWidget(style, window, std::move(quit_command))), metrics_(metrics) {}
+    : widget_(new WindowWidget(style, window, view, std::move(quit_command))), metrics_(metrics) {}
 
 QtWindow::~QtWindow() { widget_->Retire(); }
 
 QWidget& QtWindow::ParentWidget(ControlPeer* parent) const {
   QWidget* const control = WidgetOf(parent);
-  return control == nullptr ? *widget_ : *control;
+  return control == nullptr ? widget_->Pane() : *control;
 }
 
 std::unique_ptr<CanvasPeer> QtWindow::NewCanvas(Canvas& canvas, ControlPeer* parent) {
-  return NewCanvasPeer(canvas, metrics_, ParentWidget(parent));
+  auto* const widget = new CanvasWidget(canvas, metrics_, widget_->Look(), &ParentWidget(parent));
+  canvases_[&canvas] = widget;
+  return NewCanvasPeer(*widget);
 }
 
 std::unique_ptr<StaticTextPeer> QtWindow::NewStaticText(const TextStyle& style, ControlPeer* parent) {
-  return NewTextPeer(style, metrics_, ParentWidget(parent));
+  return NewTextPeer(style, metrics_, widget_->Look(), ParentWidget(parent));
 }
 
 std::unique_ptr<CheckBoxPeer> QtWindow::NewCheckBox(CheckBox& box, const std::string& caption,
@@ -136,25 +295,14 @@ std::unique_ptr<CheckBoxPeer> QtWindow::NewCheckBox(CheckBox& box, const std::st
 
 std::unique_ptr<EditFieldPeer> QtWindow::NewEditField(const TextStyle& style, base::Color back_color,
                                                       ControlPeer* parent) {
-  return NewEditPeer(style, back_color, metrics_, ParentWidget(parent));
+  return NewEditPeer(style, back_color, metrics_, widget_->Look(), ParentWidget(parent));
 }
 
-base::Rect QtWindow::Frame() const {
-  const QRect content = widget_->geometry();
-  return {content.x(), content.y(), content.width(), content.height()};
-}
-
-void QtWindow::MoveTo(std::int32_t left, std::int32_t top) {
-  widget_->setGeometry(QRect(QPoint(left, top), widget_->size()));
-}
-
-void QtWindow::Show() {
-  const bool shown_already = widget_->isVisible();
-  const bool opens_dialog = widget_->windowType() == Qt::Dialog && !shown_already;
-  if (const auto* const owner = opens_dialog ? MainWindow() : nullptr) KeepAbove(*widget_, *owner);
-  widget_->show();
-  if (shown_already) widget_->raise();  // a new one comes in front by itself
-  widget_->activateWindow();
+void QtWindow::SetReading(const Reading& reading) {
+  widget_->SetReading(ToQtReading(reading, [this](const Canvas* canvas) -> CanvasWidget* {
+    const auto found = canvases_.find(canvas);
+    return found == canvases_.end() ? nullptr : found->second;
+  }));
 }
 
 bool QtWindow::Save(const std::filesystem::path& path) {
