@@ -25,20 +25,17 @@ void AddColumn(std::string_view text, const std::vector<render::PlacedWord>& pla
   for (const std::string_view paragraph : base::Fields(text, '\n')) {
     std::size_t start = 0;
     for (const std::string_view field : base::Fields(paragraph, ' ')) {
-      const std::size_t tab = !field.empty() && field.front() == '\t' ? 1 : 0;
-      if (!field.empty() && next < placed.size()) {
-        const render::PlacedWord& word = placed[next++];
-        words.push_back({word.column, word.offset, word.text, paragraph.substr(start + tab)});
-      }
-      start += field.size() + 1;
+      const std::size_t begin = std::exchange(start, start + field.size() + 1);
+      if (field.empty() || next >= placed.size()) continue;
+      const std::size_t tab = field.front() == '\t' ? 1 : 0;
+      const render::PlacedWord& word = placed[next++];
+      words.push_back({word.column, word.offset, word.text, paragraph.substr(begin + tab)});
     }
   }
 }
 
 // Letters and digits, and whatever lies beyond ASCII.
-bool IsPartOfWord(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || (c & 0x80) != 0;
-}
+bool IsPartOfWord(char c) { return base::IsLetter(c) || base::IsDigit(c) || (c & 0x80) != 0; }
 
 // A word may be named without the punctuation behind it.
 bool StartsWithPhrase(std::string_view text, std::string_view phrase) {

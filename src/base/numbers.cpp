@@ -5,10 +5,10 @@
 #include <cmath>
 #include <limits>
 
+#include "base/text.h"
+
 namespace quill::base {
 namespace {
-
-constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 // Length of the exponent at the head of `text` ("e", a sign if any, digits),
 // 0 if what stands there is none.

@@ -18,6 +18,12 @@ namespace quill::base {
 // The host's string equality: the case of the letters A to Z does not count.
 bool EqualText(std::string_view a, std::string_view b);
 
+// One of the ten digits of ASCII.
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// A letter of ASCII.
+constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
 std::size_t Len(std::string_view text);
 
 // Return the first, the last `count` characters. A count of 0 or less gives the

@@ -69,7 +69,7 @@ void DisplayWindow::Init() {
     back.IsPushed = [this](TextButton& button) { BackButton_IsPushed(button); };
     BackButtonArray.push_back(&back);
   }
-  VersionField.SetText("V " + app_.LongVersion());
+  VersionField.SetText("V " + app::App::LongVersion());
 }
 
 TextButton& DisplayWindow::AddButton(const base::Rect& frame) {

@@ -10,8 +10,6 @@
 namespace quill::nav {
 namespace {
 
-constexpr std::int32_t kDepth = 16;  // bits a pixel
-
 std::string TitleOf(const std::shared_ptr<content::Document>& document, std::int32_t number) {
   const auto page = document ? document->GetPage(number) : nullptr;
   return page ? page->GetTitle() : "";

@@ -9,7 +9,6 @@ namespace {
 
 namespace link_type = content::link_type;
 
-constexpr std::int32_t kDepth = 16;   // bits a pixel
 constexpr std::int32_t kLineGap = 2;  // between a label's base line and the line under it
 
 // The look of a link type.

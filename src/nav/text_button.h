@@ -16,6 +16,9 @@
 
 namespace quill::nav {
 
+// Of the pictures that the viewer and its buttons ask for, in bits a pixel.
+inline constexpr std::int32_t kDepth = 16;
+
 class TextButton final : public host::Canvas {
  public:
   // `app` must outlive the button.

@@ -2,11 +2,10 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "render/page_geometry.h"
 
 namespace quill::render {
 namespace {
-
-constexpr double kLineStep = 1.5;  // from base line to base line, in line heights
 
 // The pen that walks an entry.
 class EntryFlow {

@@ -6,6 +6,9 @@
 
 namespace quill::render {
 
+// From base line to base line inside a paragraph, in line heights.
+inline constexpr double kLineStep = 1.5;
+
 // Pixels from the canvas's upper left corner. Index 0 of each array is the whole
 // page, 1 to 3 are the columns; left edges lie inside, right edges are where a
 // word with its trailing blank must end.

@@ -16,7 +16,6 @@ namespace quill::render {
 namespace {
 
 constexpr std::int32_t kTabIndent = 25;
-constexpr double kLineStep = 1.5;    // from base line to base line, in line heights
 constexpr double kLabelStep = 0.75;  // from a base line down to the offset label's
 
 // A link may ask for more characters than its paragraph has, and its text is

@@ -8,6 +8,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "base/text_converter.h"
+#include "base/utf8.h"
 
 namespace quill::authoring {
 namespace {
@@ -34,23 +35,14 @@ bool IsLost(int code) {
   return code > 0xFF || Converted(Shown(latin1), TextEncoding::kMacRoman, TextEncoding::kIsoLatin1) != latin1;
 }
 
-// Of UTF-8, behind the first byte of a character.
-bool IsContinuation(char c) { return (c & 0xC0) == 0x80; }
-
 // Whether the text has characters outside ASCII, and all of them are UTF-8. Text
 // of ISO 8859-1 that looks so by chance is hardly ever met.
 bool IsUtf8(std::string_view bytes) {
   bool found = false;
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    const auto first = static_cast<unsigned char>(bytes[i]);
-    if (first < 0x80) continue;
-    const std::size_t more = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : 1;
-    if (first < 0xC2 || first > 0xF4 || i + more >= bytes.size()) return false;
-    for (std::size_t k = 1; k <= more; ++k) {
-      if (!IsContinuation(bytes[i + k])) return false;
-    }
-    i += more;
-    found = true;
+  while (!bytes.empty()) {
+    const char32_t point = base::TakeUtf8(bytes);
+    if (point == base::kMalformed) return false;
+    found = found || point >= 0x80;
   }
   return found;
 }

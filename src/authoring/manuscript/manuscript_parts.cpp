@@ -17,13 +17,11 @@ namespace {
 
 namespace link_type = content::link_type;
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 // The names that authors give to pages. They are no part of the reader's text, so
 // that they may be kept to what is the same in every encoding.
 bool IsName(std::string_view text) {
   return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || IsDigit(c) || c == '-' || c == '_';
+    return base::IsLetter(c) || base::IsDigit(c) || c == '-' || c == '_';
   });
 }
 
@@ -32,8 +30,8 @@ bool IsName(std::string_view text) {
 bool IsVersion(std::string_view text) {
   const std::size_t whole = std::min(text.find('.'), text.size());
   const std::string_view tenths = text.substr(whole);
-  return whole >= 1 && whole <= 3 && std::all_of(text.begin(), text.begin() + whole, IsDigit) &&
-         (tenths.empty() || (tenths.size() == 2 && IsDigit(tenths[1])));
+  return whole >= 1 && whole <= 3 && std::all_of(text.begin(), text.begin() + whole, base::IsDigit) &&
+         (tenths.empty() || (tenths.size() == 2 && base::IsDigit(tenths[1])));
 }
 
 // `text`, UTF-8, as program text; none, with a diagnostic, if a character can't be
@@ -122,7 +120,7 @@ std::string ModeSpellings(const std::string& prefix) {
 }
 
 std::string SpellingOf(const Prefix& prefix) {
-  const std::string text(prefix.text);
+  std::string text(prefix.text);
   switch (prefix.kind) {
     case Target::Kind::kPage:
     case Target::Kind::kEntry:

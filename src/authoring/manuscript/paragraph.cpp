@@ -6,6 +6,7 @@
 
 #include "authoring/alphabet.h"
 #include "base/numbers.h"
+#include "base/text.h"
 #include "content/link_types.h"
 
 namespace quill::authoring {
@@ -16,12 +17,11 @@ constexpr std::size_t kMostStopDigits = 2;               // the widest column en
 constexpr char kNoBreakBlank = static_cast<char>(0xCA);  // in Mac Roman
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 // Letters and digits: what makes the rest of a word part of it and no punctuation.
 // Beyond ASCII nearly all are letters; a no-break blank can't be seen.
 bool IsWordLetter(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || IsDigit(c) ||
+  return base::IsLetter(c) || base::IsDigit(c) ||
          (static_cast<unsigned char>(c) >= 0x80 && c != kNoBreakBlank);
 }
 
@@ -129,7 +129,7 @@ void ParagraphTypesetter::TypesetField(std::size_t begin, std::size_t end) {
 std::optional<std::int32_t> ParagraphTypesetter::StopOf(std::size_t begin, std::string_view word) const {
   if (word.size() < 3 || word.front() != '{' || word.back() != '}' || letters_[begin].verbatim) return {};
   const std::string_view digits = word.substr(1, word.size() - 2);
-  if (digits.size() > kMostStopDigits || !std::all_of(digits.begin(), digits.end(), IsDigit)) return {};
+  if (digits.size() > kMostStopDigits || !std::all_of(digits.begin(), digits.end(), base::IsDigit)) return {};
   return base::IntVal(digits);
 }
 

@@ -7,7 +7,7 @@
 namespace quill::host {
 namespace {
 
-std::string Point(std::int32_t x, std::int32_t y) { return std::to_string(x) + "," + std::to_string(y); }
+std::string PointText(std::int32_t x, std::int32_t y) { return std::to_string(x) + "," + std::to_string(y); }
 
 std::string Hex(base::Color color) {
   std::array<char, 8> text = {};
@@ -30,21 +30,21 @@ double FixedMetrics::StringWidth(const TextFace& face, std::string_view text) {
 }
 
 void RecordingGraphics::DrawString(std::string_view text, std::int32_t x, std::int32_t y) {
-  drawn_.push_back("text \"" + std::string(text) + "\" " + Point(x, y) + " " + std::to_string(TextSize) +
+  drawn_.push_back("text \"" + std::string(text) + "\" " + PointText(x, y) + " " + std::to_string(TextSize) +
                    " " + Hex(ForeColor) + Flags(*this));
 }
 
 void RecordingGraphics::FillRect(const base::Rect& area) {
-  drawn_.push_back("fill " + Point(area.left, area.top) + " " + std::to_string(area.width) + "x" +
+  drawn_.push_back("fill " + PointText(area.left, area.top) + " " + std::to_string(area.width) + "x" +
                    std::to_string(area.height) + " " + Hex(ForeColor));
 }
 
 void RecordingGraphics::DrawLine(std::int32_t x1, std::int32_t y1, std::int32_t x2, std::int32_t y2) {
-  drawn_.push_back("line " + Point(x1, y1) + " " + Point(x2, y2) + " " + Hex(ForeColor));
+  drawn_.push_back("line " + PointText(x1, y1) + " " + PointText(x2, y2) + " " + Hex(ForeColor));
 }
 
 void RecordingGraphics::DrawPicture(const Picture& picture, std::int32_t x, std::int32_t y) {
-  drawn_.push_back("picture " + dynamic_cast<const MemoryPicture&>(picture).Name() + " " + Point(x, y));
+  drawn_.push_back("picture " + dynamic_cast<const MemoryPicture&>(picture).Name() + " " + PointText(x, y));
 }
 
 std::vector<std::string> RecordingGraphics::TakeDrawn() { return std::exchange(drawn_, {}); }

@@ -120,6 +120,14 @@ QString WordsNode::attributes(int offset, int* start, int* end) const {
   return {};
 }
 
+std::vector<QPointer<CanvasWidget>> LinksOf(const QtReading::Paragraph& paragraph) {
+  std::vector<QPointer<CanvasWidget>> links;
+  for (const QtReading::Run& run : paragraph) {
+    if (run.link) links.push_back(run.link);
+  }
+  return links;
+}
+
 std::vector<CanvasWidget*> Plain(const std::vector<QPointer<CanvasWidget>>& links) {
   return {links.begin(), links.end()};
 }
@@ -131,10 +139,7 @@ AccessibleReading::AccessibleReading(QWidget& window, const QtReading& reading) 
   for (const QtReading::Column& column : reading.columns) {
     for (const QtReading::Paragraph& paragraph : column) {
       if (TextOf(paragraph).trimmed().isEmpty()) continue;
-      std::vector<QPointer<CanvasWidget>> links;
-      for (const QtReading::Run& run : paragraph) {
-        if (run.link) links.push_back(run.link);
-      }
+      const auto links = LinksOf(paragraph);
       Add(new WordsNode(window, QAccessible::Paragraph, paragraph, links), Plain(links));
     }
   }

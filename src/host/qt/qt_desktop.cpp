@@ -16,6 +16,7 @@
 #include "host/controls.h"
 #include "host/qt/qt_accessible.h"
 #include "host/qt/qt_application.h"
+#include "host/qt/qt_contrast.h"
 #include "host/qt/qt_documents.h"
 #include "host/qt/qt_files.h"
 #include "host/qt/qt_graphics.h"
@@ -162,6 +163,7 @@ int QtDesktop::Run(Application& application) {
   parts_->has_commands = application.GetMenuBar() != nullptr;
   if (parts_->quit_code) return *parts_->quit_code;
   const SessionSignals session([this] { Quit(0); });
+  const DesktopContrast contrast([this](bool high) { parts_->view.SetDesktopContrast(high); });
   return QApplication::exec();
 }
 

@@ -76,7 +76,7 @@ bool StartApplication(const std::string& program, const std::string& path,
   if (executable.isEmpty()) return false;
   auto opener = std::make_unique<Opener>(executable, QString::fromStdString(path), std::move(failed));
   if (!opener->Start()) return false;
-  opener.release();  // goes when its process ends
+  static_cast<void>(opener.release());  // goes when its process ends
   return true;
 }
 

@@ -14,8 +14,8 @@ namespace quill::host {
 namespace {
 
 constexpr double kMargin = 20;  // millimetres
-constexpr double kLargestSize = 11;
-constexpr double kSmallestSize = 5;
+constexpr double kLargestPrint = 11;
+constexpr double kSmallestPrint = 5;
 constexpr double kSizeStep = 0.5;
 
 QTextCharFormat FormatOf(const QtReading::Run& run, double points) {
@@ -52,7 +52,7 @@ void Typeset(const QtReading& reading, double points, QTextDocument& document) {
 // The largest size in which the text fits, and the text in it.
 void FitInto(const QSizeF& room, QPaintDevice& device, const QtReading& reading, QTextDocument& document) {
   document.documentLayout()->setPaintDevice(&device);
-  for (double points = kLargestSize; points >= kSmallestSize; points -= kSizeStep) {
+  for (double points = kLargestPrint; points >= kSmallestPrint; points -= kSizeStep) {
     document.clear();
     Typeset(reading, points, document);
     document.setTextWidth(room.width());

@@ -27,7 +27,8 @@ QtView::QtView(const std::filesystem::path& file) {
   bool is_number = false;
   const int zoom = settings_->value(QLatin1String(kZoomKey)).toInt(&is_number);
   if (is_number) zoom_ = std::clamp(zoom, kSmallestZoom, kLargestZoom);
-  high_contrast_ = settings_->value(QLatin1String(kContrastKey), false).toBool();
+  const QVariant contrast = settings_->value(QLatin1String(kContrastKey));
+  if (contrast.isValid()) high_contrast_ = contrast.toBool();
 }
 
 QtView::~QtView() = default;
@@ -41,6 +42,11 @@ void QtView::SetZoom(int percent) {
 void QtView::SetHighContrast(bool on) {
   high_contrast_ = on;
   if (settings_) settings_->setValue(QLatin1String(kContrastKey), on);
+  Tell();
+}
+
+void QtView::SetDesktopContrast(bool high) {
+  desktop_contrast_ = high;
   Tell();
 }
 

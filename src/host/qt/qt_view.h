@@ -34,11 +34,15 @@ class QtView {
   ~QtView();
 
   int Zoom() const { return zoom_; }
-  bool HighContrast() const { return high_contrast_; }
+  bool HighContrast() const { return high_contrast_.value_or(desktop_contrast_); }
 
   // A zoom outside the ends becomes the nearest.
   void SetZoom(int percent);
   void SetHighContrast(bool on);
+
+  // What the desktop as a whole has been set to; counts until the user says
+  // otherwise of this program.
+  void SetDesktopContrast(bool high);
 
   // Place and size of the window of that title when it was last seen.
   std::optional<QRect> PlaceOf(const QString& title) const;
@@ -53,7 +57,8 @@ class QtView {
 
   std::unique_ptr<QSettings> settings_;  // null where nothing is kept
   int zoom_ = kActualSize;
-  bool high_contrast_ = false;
+  std::optional<bool> high_contrast_;  // as the user has said
+  bool desktop_contrast_ = false;
   std::vector<Listener*> listeners_;
 };
 
