@@ -73,13 +73,6 @@ class Canvas : public RectControl {
   void SetBackdrop(std::shared_ptr<Picture> backdrop);
   Graphics& GetGraphics() { return peer_->GetGraphics(); }
 
-  // What the canvas says, for those who can't see it; empty if there is nothing
-  // on it to press.
-  void SetLabel(const std::string& label) { peer_->SetLabel(label); }
-
-  // What pressing it does, for a desktop's own help.
-  void SetPurpose(const Purpose& purpose) { peer_->SetPurpose(purpose); }
-
   // Its area must be shown anew.
   virtual void Event_Paint() {}
   // True asks for `Event_MouseUp`.
@@ -87,6 +80,15 @@ class Canvas : public RectControl {
   virtual void Event_MouseUp(std::int32_t /*x*/, std::int32_t /*y*/) {}
   virtual void Event_MouseEnter() {}
   virtual void Event_MouseExit() {}
+
+  // Ours, not the domain's:
+
+  // What the canvas says, for those who can't see it; empty if there is nothing
+  // on it to press.
+  void SetLabel(const std::string& label) { peer_->SetLabel(label); }
+
+  // What pressing it does, for a desktop's own help.
+  void SetPurpose(const Purpose& purpose) { peer_->SetPurpose(purpose); }
 
  protected:
   CanvasPeer& Peer() override { return *peer_; }
@@ -167,11 +169,6 @@ class Window {
   std::int32_t Width() const { return peer_->Frame().width; }
   std::int32_t Height() const { return peer_->Frame().height; }
 
-  bool IsOpen() const { return open_; }
-
-  // Runs the Open event, then puts the window on the screen.
-  void Open();
-
   // Runs the Close event and takes the window off the screen; nothing if it
   // isn't open. The object stays with its owner, so that a window may well be
   // closed in an event of one of its controls.
@@ -179,6 +176,13 @@ class Window {
 
   // Brings the window to the front.
   void Show() { peer_->Show(); }
+
+  // Ours, not the domain's:
+
+  bool IsOpen() const { return open_; }
+
+  // Runs the Open event, then puts the window on the screen.
+  void Open();
 
   // Puts the upper left corner of the content there on the screen.
   void MoveTo(std::int32_t left, std::int32_t top) { peer_->MoveTo(left, top); }

@@ -63,9 +63,6 @@ class FolderItem {
   // Last part of the path, in UTF-8.
   virtual std::string Name() const = 0;
 
-  // Where it is, as the desktop names places.
-  virtual std::string Path() const = 0;
-
   virtual bool Exists() const = 0;
 
   // The place of that name inside this folder, whether or not anything is
@@ -86,7 +83,12 @@ class FolderItem {
   // link to a file is followed.
   std::unique_ptr<TextOutputStream> CreateTextFile() const { return Create(Readers::kOwner); }
 
-  // The same for a file that others may read as they read the old one, or as is
+  // Ours, not the domain's:
+
+  // Where it is, as the desktop names places.
+  virtual std::string Path() const = 0;
+
+  // The same as `CreateTextFile` for a file that others may read as they read the old one, or as is
   // usual where there was none.
   std::unique_ptr<TextOutputStream> CreateSharedFile() const { return Create(Readers::kAsBefore); }
 

@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
+#include "app/destination.h"
 #include "app/file_types.h"
 #include "app/product.h"
+#include "base/numbers.h"
 #include "host/memory/memory_desktop.h"
 #include "support/messages.h"
 
@@ -17,11 +21,9 @@ TEST(AppTest, TranslatesBetweenFieldsAndColumns) {
       EXPECT_EQ(App::GetFieldFromColumn(column, columns), field);
     }
   }
-  EXPECT_EQ(App::GetColumnFromField(6), 0);
-  EXPECT_EQ(App::GetColumnFromField(-1), 0);
-  EXPECT_EQ(App::GetFieldFromColumn(3, 2), 0);
-  EXPECT_EQ(App::GetFieldFromColumn(2, 1), 0);
-  EXPECT_EQ(App::GetFieldFromColumn(1, 4), 0);
+  for (const std::int32_t none : {-1, 6}) EXPECT_EQ(App::GetColumnFromField(none), 0);
+  for (const auto& [column, columns] : {std::pair(3, 2), {2, 1}, {1, 4}})
+    EXPECT_EQ(App::GetFieldFromColumn(column, columns), 0) << column;
 }
 
 TEST(AppTest, FillsTheTablesAndSaysNothing) {
@@ -57,6 +59,37 @@ TEST(FileTypesTest, AreKnownAsLongAsTheyLive) {
     EXPECT_TRUE(host::IsFileTypeRegistered("QMRFile"));
   }
   EXPECT_FALSE(host::IsFileTypeRegistered("RTF"));
+}
+
+// What a link with that target and the file "f" opens, in words.
+std::string Opened(Modes modes, std::size_t mode, std::int32_t type, const std::string& target) {
+  constexpr std::array kKinds = {"nothing", "page", "entry", "notes", "document", "mode"};
+  const Destination destination = DestinationOf(modes, modes[mode], type, target, "f");
+  std::string opened = kKinds.at(static_cast<std::size_t>(destination.kind));
+  if (!destination.name.empty()) opened += " " + destination.name;
+  if (destination.kind == Destination::Kind::kMode) opened += " " + base::Str(destination.mode);
+  if (destination.page) opened += " page " + base::Str(*destination.page);
+  return opened;
+}
+
+TEST(DestinationTest, IsOneRuleForEveryMode) {
+  // Mode, type of the link, target, and what opens.
+  const std::tuple<std::size_t, std::int32_t, const char*, const char*> rows[] = {
+      {0, 0, "5", "mode 5"},           {0, 0, "6", "mode 6"},
+      {0, 0, "99.9", "mode 99"},       {0, 0, "100", "mode 5 page 0"},
+      {0, 0, "112", "mode 5 page 12"}, {0, 0, "1e99", "mode 5 page 2147483647"},
+      {0, 0, "-1", "mode -1"},         {0, 0, "x", "mode 0"},
+      {0, 1, "3", "mode 3"},           {0, 9, "3", "mode 3"},
+      {1, 0, "7", "page 7"},           {1, 0, "0", "notes"},
+      {1, 0, "00", "page 00"},         {2, 0, "0", "page 0"},
+      {5, 0, "112", "page 112"},       {1, 1, "0", "entry 0"},
+      {4, 9, "0", "document f"},       {1, 2, "7", "nothing"},
+      {1, 3, "7", "nothing"},          {1, 8, "7", "nothing"},
+      {1, 10, "7", "nothing"},         {1, -1, "7", "nothing"},
+  };
+  for (const auto& [mode, type, target, opened] : rows)
+    EXPECT_EQ(Opened(kModes, mode, type, target), opened) << mode << " " << type << " " << target;
+  EXPECT_EQ(Opened(Modes(kModes).first(5), 0, 0, "112"), "mode 112") << "no mode is chosen by page";
 }
 
 }  // namespace

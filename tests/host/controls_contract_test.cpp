@@ -52,8 +52,7 @@ struct ProbeWindow final : Window {
   CheckBox& box = AddControl<CheckBox>(&ground, base::Rect{10, 50, 60, 20}, "box", TextFace());
 };
 
-class ControlContract : public OnBothDesktops {
- protected:
+struct ControlContract : OnBothDesktops {
   ControlContract() { OpenAnew(); }
 
   void OpenAnew(const std::function<void(ProbeWindow&)>& prepare = {}) {
@@ -78,12 +77,7 @@ class ControlContract : public OnBothDesktops {
 INSTANTIATE_TEST_SUITE_P(Both, ControlContract, BothDesktops(), DesktopName);
 
 TEST_P(ControlContract, TheMouseReachesWhoeverLiesThere) {
-  struct Row {
-    const char* story;
-    std::function<void(ProbeWindow&)> before;
-    std::int32_t x1, y1, x2, y2;
-    const char* log;
-  };
+  using Prepare = std::function<void(ProbeWindow&)>;
   const auto ready = [](ProbeWindow&) {};
   const auto idle = [](ProbeWindow& w) { w.a.claims = false; };
   const auto flat = [](ProbeWindow& w) { w.a.SetWidth(0); };
@@ -91,7 +85,7 @@ TEST_P(ControlContract, TheMouseReachesWhoeverLiesThere) {
   const auto over = [](ProbeWindow& w) { w.b.SetLeft(20); };
   const auto over_and_off = [over](ProbeWindow& w) { over(w), w.b.SetEnabled(false); };
   const auto inner = [](ProbeWindow& w) { w.inside_b.SetVisible(true), w.inside_b.claims = false; };
-  const Row rows[] = {
+  const std::tuple<const char*, Prepare, int, int, int, int, const char*> rows[] = {
       {"a click on the first pixel", ready, 10, 10, 10, 10, "a enter\na down 0,0\na up 0,0\n"},
       {"and on the last", ready, 49, 29, 49, 29, "a enter\na down 39,19\na up 39,19\n"},
       {"one pixel past it", ready, 50, 30, 50, 30, ""},
@@ -106,12 +100,12 @@ TEST_P(ControlContract, TheMouseReachesWhoeverLiesThere) {
       {"inside another", inner, 75, 25, 75, 25, "in b enter\nin b down 5,5\n"},
       {"through text", ready, 115, 15, 115, 15, "under enter\nunder down 5,5\nunder up 5,5\n"},
   };
-  for (const Row& row : rows) {
-    OpenAnew(row.before);
-    Drag(row.x1, row.y1, row.x2, row.y2);
+  for (const auto& [story, before, x1, y1, x2, y2, log] : rows) {
+    OpenAnew(before);
+    Drag(x1, y1, x2, y2);
     // A canvas below its children may or may not count as entered with them.
     const bool with_parent = log_.starts_with("b enter\nin b");
-    EXPECT_EQ(with_parent ? log_.substr(8) : log_, row.log) << row.story;
+    EXPECT_EQ(with_parent ? log_.substr(8) : log_, log) << story;
     under_test_->Move(199, 99);
   }
 }
@@ -173,6 +167,10 @@ TEST_P(ControlContract, AWindowIsOpenFromOpenToClose) {
   under_test_->Settle();
   const base::Rect frame = {window_->Left(), window_->Top(), window_->Width(), window_->Height()};
   EXPECT_EQ(frame, (base::Rect{70, 90, 200, 100}));
+  under_test_->Minimise();
+  EXPECT_TRUE(under_test_->IsMinimised());
+  window_->Show();
+  EXPECT_FALSE(under_test_->IsMinimised());
   window_->Close();
   window_->Close();
   EXPECT_FALSE(window_->IsOpen() || under_test_->ShowsWindow());

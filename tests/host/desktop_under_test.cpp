@@ -26,6 +26,8 @@ class MemoryUnderTest final : public DesktopUnderTest {
   void Release() override { Screen().Release(); }
   void Settle() override { Screen().Paint(); }
   bool ShowsWindow() override { return Screen().shown && !Screen().closed; }
+  void Minimise() override { Screen().minimised = true; }
+  bool IsMinimised() override { return Screen().minimised; }
   std::int32_t QuitCode() override { return desktop_.quit_code.value(); }
 
  private:
@@ -37,9 +39,8 @@ class MemoryUnderTest final : public DesktopUnderTest {
 
 // Null if none is shown.
 QWindow* ShownWindow() {
-  for (QWindow* window : QGuiApplication::topLevelWindows()) {
+  for (QWindow* window : QGuiApplication::topLevelWindows())
     if (window->isVisible()) return window;
-  }
   return nullptr;
 }
 
@@ -72,6 +73,8 @@ void QtUnderTest::Settle() {
 }
 
 bool QtUnderTest::ShowsWindow() { return ShownWindow() != nullptr; }
+void QtUnderTest::Minimise() { QApplication::topLevelWidgets().front()->showMinimized(); }
+bool QtUnderTest::IsMinimised() { return QApplication::topLevelWidgets().front()->isMinimized(); }
 
 std::int32_t QtUnderTest::QuitCode() {
   Application application;

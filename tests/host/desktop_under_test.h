@@ -6,7 +6,6 @@
 
 #include <QEvent>
 #include <QPoint>
-#include <QTemporaryDir>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -15,6 +14,7 @@
 #include "host/desktop.h"
 #include "host/product.h"
 #include "host/qt/qt_desktop.h"
+#include "support/temporary_folder.h"
 
 namespace quill::host {
 
@@ -41,6 +41,10 @@ class DesktopUnderTest {
   // Whether a window is on the screen.
   virtual bool ShowsWindow() = 0;
 
+  // Minimises the window opened last; tells whether it is.
+  virtual void Minimise() = 0;
+  virtual bool IsMinimised() = 0;
+
   // The status with which the program would end; it must have quit.
   virtual std::int32_t QuitCode() = 0;
 };
@@ -64,7 +68,7 @@ class QtUnderTest final : public DesktopUnderTest {
                   .screen = QtDesktop::Screen::kNone}) {}
 
   QtDesktop& Get() override { return desktop_; }
-  std::filesystem::path Folder() const { return folder_.path().toStdString(); }
+  const std::filesystem::path& Folder() const { return folder_.Path(); }
 
   void AddFile(const std::string& path, const std::string& bytes) override;
   void Move(std::int32_t x, std::int32_t y) override;
@@ -73,6 +77,8 @@ class QtUnderTest final : public DesktopUnderTest {
   void Release() override { Send(QEvent::MouseButtonRelease, Qt::NoButton, 1); }
   void Settle() override;
   bool ShowsWindow() override;
+  void Minimise() override;
+  bool IsMinimised() override;
   std::int32_t QuitCode() override;
 
  private:
@@ -88,14 +94,13 @@ class QtUnderTest final : public DesktopUnderTest {
   static inline char name_[] = "host_test";
   static inline char* arguments_[] = {name_, nullptr};
 
-  QTemporaryDir folder_;
+  tests::TemporaryFolder folder_;
   QtDesktop desktop_;
   QPoint mouse_;
 };
 
 // A suite that runs against both.
-class OnBothDesktops : public testing::TestWithParam<Which> {
- protected:
+struct OnBothDesktops : testing::TestWithParam<Which> {
   std::unique_ptr<DesktopUnderTest> under_test_ = MakeDesktop(GetParam());
   Desktop& desktop_ = under_test_->Get();
 };

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QKeyEvent>
+#include <QPlainTextEdit>
 #include <QTimer>
 #include <QWidget>
 #include <QWindow>
@@ -55,8 +56,7 @@ QImage Saved(QtUnderTest& under_test, Window& window) {
   return QImage(path.c_str());
 }
 
-class QtDesktopTest : public testing::Test {
- protected:
+struct QtDesktopTest : testing::Test {
   // The colours at these points, as "#rrggbb" each.
   std::string Colors(std::initializer_list<QPoint> points) {
     const QImage image = Saved(under_test_, window_);
@@ -137,12 +137,6 @@ int StatusOf(QtUnderTest& under_test, int milliseconds) {
   return under_test.Get().Run(application);
 }
 
-TEST_F(QtDesktopTest, QuitBeforeTheLoopKeepsItFromBeginning) {
-  Quit(3);
-  Quit(0);
-  EXPECT_EQ(StatusOf(under_test_, 0), 3);
-}
-
 TEST_F(QtDesktopTest, AnExceptionOutOfAnEventEndsTheProgram) {
   canvas_.fails = child_.fails = true;
   window_.Open();
@@ -152,31 +146,28 @@ TEST_F(QtDesktopTest, AnExceptionOutOfAnEventEndsTheProgram) {
 }
 
 TEST(QtEnd, WhatTheUserMayClose) {
-  struct Row {
-    const char* story;
-    WindowStyle::Frame frame;
-    bool close_button;
-    int key, status;  // no key: the window manager asks
-    bool open;
-  };
   constexpr auto kDialog = WindowStyle::Frame::kDialog;
-  for (const Row& row :
-       {Row{"main", kPlain, false, 0, 0, true}, Row{"main, Ctrl+Q", kPlain, false, Qt::Key_Q, 0, true},
-        Row{"main, Escape", kPlain, false, Qt::Key_Escape, kRunsOn, true},
-        Row{"with a button", kPlain, true, 0, kRunsOn, false},
-        Row{"dialog", kDialog, false, 0, kRunsOn, false},
-        Row{"dialog, Escape", kDialog, false, Qt::Key_Escape, kRunsOn, false}}) {
+  // Without a key the window manager asks.
+  const std::tuple<const char*, WindowStyle::Frame, bool, int, int, bool> rows[] = {
+      {"main", kPlain, false, 0, 0, true},
+      {"main, Ctrl+Q", kPlain, false, Qt::Key_Q, 0, true},
+      {"main, Escape", kPlain, false, Qt::Key_Escape, kRunsOn, true},
+      {"with a button", kPlain, true, 0, kRunsOn, false},
+      {"dialog", kDialog, false, 0, kRunsOn, false},
+      {"dialog, Escape", kDialog, false, Qt::Key_Escape, kRunsOn, false},
+  };
+  for (const auto& [story, frame, close_button, key, status, open] : rows) {
     QtUnderTest under_test;
-    PaintedWindow window(row.frame, row.close_button);
+    PaintedWindow window(frame, close_button);
     window.Open();
     under_test.Settle();
-    const auto held = row.key == Qt::Key_Q ? Qt::ControlModifier : Qt::NoModifier;
+    const auto held = key == Qt::Key_Q ? Qt::ControlModifier : Qt::NoModifier;
     QWindow* const shown = QGuiApplication::topLevelWindows().front();
-    QCoreApplication::postEvent(shown, new QKeyEvent(QEvent::KeyPress, row.key, held));
-    if (row.key == 0) QCoreApplication::postEvent(shown, new QCloseEvent);
-    EXPECT_EQ(StatusOf(under_test, 0), row.status) << row.story;
-    EXPECT_EQ(window.IsOpen(), row.open) << row.story;
-    EXPECT_EQ(under_test.ShowsWindow(), row.open) << row.story;
+    QCoreApplication::postEvent(shown, new QKeyEvent(QEvent::KeyPress, key, held));
+    if (key == 0) QCoreApplication::postEvent(shown, new QCloseEvent);
+    EXPECT_EQ(StatusOf(under_test, 0), status) << story;
+    EXPECT_EQ(window.IsOpen(), open) << story;
+    EXPECT_EQ(under_test.ShowsWindow(), open) << story;
   }
 }
 
@@ -185,6 +176,62 @@ TEST(QtEnd, TheSessionsSignalsEndTheProgram) {
     QtUnderTest under_test;
     QTimer::singleShot(0, qApp, [signal] { std::raise(signal); });
     EXPECT_EQ(StatusOf(under_test, 5000), 0) << signal;
+  }
+}
+
+struct QtEditField : testing::Test {
+  struct EditWindow final : Window {
+    EditWindow() : Window({"edit", 300, 200, WindowStyle::Frame::kDocument, base::kWhite, false, true}) {
+      Open();
+    }
+    EditField& field =
+        AddControl<EditField>(nullptr, base::Rect{10, 20, 200, 100}, TextStyle(), base::kWhite);
+  };
+
+  QtUnderTest under_test_;
+  EditWindow window_;
+  EditField& field_ = window_.field;
+  QWidget& shown_ = *QApplication::topLevelWidgets().front();
+  QPlainTextEdit& widget_ = *shown_.findChild<QPlainTextEdit*>();
+};
+
+TEST_F(QtEditField, GivesBackWhatNobodyChanged) {
+  std::string mebibyte;
+  for (int at = 0; at < 1 << 20; ++at) mebibyte += static_cast<char>(at % 251);
+  for (const std::string& text :
+       {mebibyte, std::string("a\r\nb\nc\rd\r\n"), std::string("\xFF\0\xC3 \x8E", 5),
+        std::string("\xEF\xBB\xBFmark\xE2\x80\xA8"), std::string()}) {
+    field_.SetText(text);
+    EXPECT_TRUE(field_.Text() == text) << text.substr(0, 20);
+  }
+}
+
+TEST_F(QtEditField, KeepsTheRestWhenTheUserTypes) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"", "x"},
+      {"emoji \xF0\x9F\x98\x80", "emoji \xF0\x9F\x98\x80x"},
+      {"no-break\xC2\xA0space", "no-break\xC2\xA0spacex"},
+      {"\ttabs\t", "\ttabs\tx"},
+      {"many\n\n lines \n", "many\n\n lines \nx"},
+      {"DOS\r\n\r\nlines\r\n", "DOS\r\n\r\nlines\r\nx"},
+      {"a\r\nmixture\nof\rlines", "a\nmixture\nof\nlinesx"},
+      {"\xD2Mac Roman\xD3\x01", "\xE2\x80\x9CMac Roman\xE2\x80\x9D\xE2\x90\x81x"},
+  };
+  for (const auto& [given, typed] : rows) {
+    field_.SetText(given);
+    widget_.moveCursor(QTextCursor::End);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, "x");
+    QCoreApplication::sendEvent(&widget_, &press);
+    EXPECT_EQ(field_.Text(), typed) << given;
+  }
+  EXPECT_EQ(widget_.toPlainText().toStdString(), rows[std::size(rows) - 1].second) << "as it is shown";
+}
+
+TEST_F(QtEditField, KeepsItsDistancesFromTheEdges) {
+  for (const QSize& size : {QSize(400, 260), QSize(120, 130), QSize(300, 200)}) {
+    shown_.resize(size);
+    under_test_.Settle();
+    EXPECT_EQ(widget_.geometry(), QRect(10, 20, size.width() - 100, size.height() - 100));
   }
 }
 

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "base/numbers.h"
+#include "base/text.h"
+#include "markup/numeric_references.h"
+#include "markup/text_helpers.h"
 #include "support/texts.h"
 
 namespace quill::markup {
@@ -85,6 +89,71 @@ TEST(TextSection, ComesBackBarAFewLosses) {
                         {"a\rb\r\nc", "a\nb\n\nc"},
                         {"\x8E\r\xA5", "\x8E\n*"},
                         {std::string("\x8E\0", 2), "\x8E&#0;"}});
+}
+
+TEST(TextHelpers, Decodes) {
+  ExpectEach(DecodeXMLText,
+             {{"&#65;&#x41;&#0;&#-5;&#65", "A&#x41;&#0;&#-5;&#65", "decimal, positive and closed"},
+              {"&#38;#7;&#7&#65;", "\x07&#7&#65;", "one behind the cursor goes: text is skipped"},
+              {"&amp;lt;&amp;amp;", "<&amp;", "ampersands first, though one layer only"},
+              {"&amp;#233;", "\x8E", "numbers see what the ampersands uncovered"},
+              {"&#8211;&#9999;", "-?", "codes above the character set"},
+              {"&apos;&quot; & &nbsp; &", "&apos;&quot; & &nbsp; &", "not this layer's business"}});
+}
+
+TEST(TextHelpers, Encodes) {
+  ExpectEach(EncodeXMLText,
+             {{"a<b>&\t\n", "a&lt;b&gt;&amp;\t\n", "pure ASCII keeps its control characters"},
+              {"\xA9\t\xA3\x01", "\xA9\t\xA3\x01", "so does text that is the same in both encodings"},
+              {"\x8E\t\xA3&\x7F", "&#233;&#9;&#163;&amp;&#127;", "with one foreign character they go too"}});
+}
+
+using tests::Repeated;
+
+std::string Replaced(std::string text) {
+  ReplaceNumericReferences(text);
+  return text;
+}
+
+// The rule as it reads, with no thought of time.
+std::string ReplacedNaively(std::string text) {
+  for (std::size_t start = 0;;) {
+    const std::size_t found = text.find("&#", start);
+    if (found == std::string::npos) return text;
+    const std::size_t semicolon = text.find(';', found + 2);
+    if (semicolon == std::string::npos) return text;
+    const std::int32_t number = base::IntVal(text.substr(found + 2, semicolon - found - 2));
+    if (number > 0) text = base::Replace(text, "&#" + base::Str(number) + ";", base::Chr(number));
+    start = found + 1;
+  }
+}
+
+TEST(NumericReferences, AgreeWithTheRule) {
+  const std::vector<std::string> characters = {"&", "&", "#", ";", ";", "0", "1", "2", "3",
+                                               "4", "5", "6", " ", "9", "a", "-", "e", "."};
+  // References that decode to parts of references: & is 38, # 35, ; 59, 0 to 6
+  // are 48 to 54.
+  const std::vector<std::string> parts = {"&#38;",  "&#35;", "&#59;", "&#54;",        "&#53;",
+                                          "&#065;", "&#65;", "&#",    "#65;",         "65;",
+                                          "5;",     ";",     "x",     "&#2147483647;"};
+  std::mt19937 random(7);
+  for (std::size_t round = 0; round < 20000; ++round) {
+    for (const auto& pieces : {characters, parts}) {
+      const std::string text = tests::RandomText(random, pieces, 4 + round % 20);
+      ASSERT_EQ(Replaced(text), ReplacedNaively(text)) << text;
+    }
+  }
+}
+
+TEST(NumericReferences, LongTextsAreQuick) {
+  const int count = 200000;
+  const std::string made = Repeated("&#38;#65;", count);  // the last ones replace what these make
+  const std::string tail = Repeated("&#65;", count);
+  const std::string unread = Repeated("&#x", count);
+  EXPECT_EQ(Replaced(tail), std::string(count, 'A'));
+  EXPECT_EQ(Replaced(unread + ";&#65;").substr(unread.size()), ";A");
+  EXPECT_EQ(Replaced("&#065;" + unread + ";").size(), unread.size() + 7);
+  EXPECT_LT(Replaced(made + tail).size(), made.size() + tail.size());
 }
 
 }  // namespace

@@ -1,15 +1,40 @@
 #include "markup/parser.h"
 
+#include <gtest/gtest.h>
+
 #include <chrono>
+#include <sstream>
 
 #include "base/exceptions.h"
-#include "markup_test.h"
+#include "base/text.h"
+#include "host/memory/memory_desktop.h"
+#include "markup/container.h"
+#include "markup/end_tag_search.h"
+#include "markup/exceptions.h"
+#include "support/messages.h"
+#include "support/texts.h"
 
 namespace quill::markup {
 namespace {
 
 using tests::kRefused;
 using tests::Repeated;
+
+// Message boxes that a test does not take fail it.
+struct MarkupTest : testing::Test {
+  std::vector<std::string> TakeMessages() { return tests::TakeMessages(desktop_); }
+
+  // What the document that `make` makes holds, `kRefused` if there is none.
+  template <typename Make>
+  std::string Parsed(const Make& make) {
+    std::string dump = tests::DumpOrRefused([&] { return tests::DumpContent(make()); });
+    EXPECT_EQ(TakeMessages().size(), dump == kRefused ? 2u : 0u) << dump;
+    return dump;
+  }
+
+  host::MemoryDesktop desktop_;
+  const tests::NoUnseenMessages no_unseen_messages_{desktop_};
+};
 
 struct ParserTest : MarkupTest {
   std::string Read(const std::string& text, bool relaxed) {
@@ -37,9 +62,8 @@ TEST_F(ParserTest, ReadsTheSameInBothSettings) {
                      {"<!a ]>[>", R"(!a"]>[")"},
                      {"<!>xx", R"(!"" "xx")"},
                      {"<a b=\"1>2\"></a>", kRefused, "the tag ends inside the value"}});
-    for (const char* const refused : {"</a>", "<a", "<?a", "<!a [>", "<!--->", "<![CDATA[a]]", "<a b></a>"}) {
+    for (const char* const refused : {"</a>", "<a", "<?a", "<!a [>", "<!--->", "<![CDATA[a]]", "<a b></a>"})
       EXPECT_EQ(Read(refused, relaxed), kRefused) << refused;
-    }
   }
 }
 
@@ -84,7 +108,7 @@ TEST_F(ParserTest, HostileTextsAreQuick) {
   std::string answers;
   for (int i = 0; i < 30000; ++i) {
     const std::string name = "n" + std::to_string(i);
-    odd += "<" + name + "></" + name + " >";
+    odd.append("<").append(name).append("></").append(name).append(" >");
     answers += "</" + name + ">";
   }
   const std::string answered = odd + "<!--" + answers + "-->xx";
@@ -100,6 +124,116 @@ TEST_F(ParserTest, HostileTextsAreQuick) {
   EXPECT_EQ(Read(swallowed + "</" + Repeated("long", 200000) + ">", true), kRefused);
   EXPECT_EQ(Read("<![" + Repeated(">", 300000), false), kRefused);
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(30));
+}
+
+TEST(EndTagSearch, AgreesWithPlainSearches) {
+  const std::vector<std::string> of_names = {"</", "<", "/", "a", "A", "b"};
+  const std::vector<std::string> of_texts = {"</", "</", "<", "/", "a", "A", "b", ">", " "};
+  std::mt19937 random(11);
+  for (int round = 0; round < 20000; ++round) {
+    const std::string text = tests::RandomText(random, of_texts, 30);
+    EndTagSearch search;
+    EndTagIndex index(text);
+    bool all_follow = true;
+    std::vector<std::string> names(1 + random() % 2);
+    for (std::string& name : names) {
+      name = tests::RandomText(random, of_names, 1 + random() % 3) + (random() % 3 == 0 ? ">" : "");
+      const std::size_t from = random() % 20;
+      const bool follows = base::InStr(from + 1, text, "</" + name) > 0;
+      ASSERT_EQ(index.Follows(name, from), follows) << name << " from " << from << " in " << text;
+      search.Require(name, from);
+      all_follow = all_follow && follows;
+    }
+    ASSERT_EQ(search.AllFollow(text), all_follow) << text << ", first name " << names[0];
+  }
+}
+
+using ContainerTest = MarkupTest;
+
+TEST_F(ContainerTest, IsCompleteOrNotThereAtAll) {
+  zkXMLContainer container("<a/></>xy");
+  EXPECT_EQ(container.UnreadText(), "<a/></>xy") << "an end tag without a name ends it";
+  container.ParseIncrementally("<b/>xx");
+  EXPECT_EQ(tests::DumpContent(container), "a");
+  EXPECT_EQ(zkXMLContainer("<a/>xy").UnreadText(), "");
+
+  EXPECT_THROW(zkXMLContainer("<a>"), zkXMLParsingException);
+  const std::vector<std::string> expected = {
+      "An error occurred while parsing the XML/HTML file.",
+      "If the program crashes after this, it doesn't handle the exception raised. Please report to the "
+      "author."};
+  EXPECT_EQ(TakeMessages(), expected);
+}
+
+TEST_F(ContainerTest, ReadsFiles) {
+  tests::ExpectEach(
+      [this](const std::string& name) {
+        desktop_.files.AddFile(name, "<a b=1><c>xx</a>");
+        return Parsed([&] { return zkXMLContainer(desktop_.files.Item(name)); });
+      },
+      {{"page.HTML", R"(a{b=1}[c "xx"])"},
+       {"page.htm", R"(a{b=1}[c "xx"])"},
+       {"htm", kRefused},
+       {"page.xhtml", kRefused},
+       {"a.html.xml", kRefused}});
+  desktop_.files.Lock("page.htm");
+  EXPECT_THROW(zkXMLContainer(desktop_.files.Item("page.htm")), base::NilObjectException);
+  EXPECT_THROW(zkXMLContainer(std::shared_ptr<host::FolderItem>()), base::NilObjectException);
+}
+
+// What the tree has come to, and what is unread, after each of the chunks, which
+// end at "|".
+std::string Fed(const std::string& chunks, bool relaxed) {
+  zkXMLContainer container;
+  std::istringstream in(chunks);
+  std::string steps;
+  for (std::string chunk; std::getline(in, chunk, '|');) {
+    container.ParseIncrementally(chunk, relaxed);
+    steps += (steps.empty() ? "" : " | ") + tests::DumpContent(container);
+    if (!container.UnreadText().empty()) steps += " unread " + container.UnreadText();
+  }
+  EXPECT_TRUE(container.IsConsistent()) << chunks;
+  EXPECT_FALSE(container.IsComplete()) << chunks;
+  return steps;
+}
+
+TEST_F(ContainerTest, GrowsByChunks) {
+  tests::ExpectEach(
+      [](const std::string& chunks) { return Fed(chunks, false); },
+      {{"<a><b>te|xt</b>y", R"(a..[b..["te"]] | a[b["te" "xt"]])", "cut in two; last character goes"},
+       {"<a>x&am|p;y</a>", R"(a..["x&am"] | a["x&am" "p;y"])", "a cut entity stays"},
+       {"<a>xx<!-- c| --></a>", R"(a..["xx"] unread <!-- c | a["xx" Comment" c "])", "a construct waits"},
+       {"<a></a ><b/>xx|yy", R"(a unread <b/>xx | a b "xxyy")", "an end tag out of sight ends the chunk"},
+       {"<a></a ><!--</A>-->xx", R"(a Comment"</A>" "xx")", "one in sight doesn't"},
+       {"<a><b/>", "a[b]", "out of sight, where the text has ended"}});
+  tests::ExpectEach(
+      [](const std::string& chunks) { return Fed(chunks, true); },
+      {{"<p>1<b>2<i>33|4<u>5</p>xx| ",
+        R"(p..["1" b..["2" i..["33"]]] | p..["1" b..["2" i..["33" "4" u "5"]]] unread </p>xx)"
+        R"( | p["1" b "2" i "33" "4" u "5"] "xx ")",
+        "what earlier chunks left moves up too"},
+       {"<q><p>1</q></p>xx", R"(q[p "1"] unread <q><p>1</q></p>xx)", "another's end tag, its own in sight"},
+       {"<a/></b>xx", "a unread <a/></b>xx", "an end tag that nobody takes stops in silence"}});
+}
+
+TEST_F(ContainerTest, KeepsToItsFirstChunksSetting) {
+  zkXMLContainer container;
+  container.ParseIncrementally("<a>xx");
+  EXPECT_FALSE(container.IsConsistent());
+  EXPECT_THROW(container.ParseIncrementally("<b/></c>", true), zkXMLParsingException);
+  EXPECT_EQ(tests::DumpContent(container), R"(a..["xx" b])") << "what was read stays";
+  const std::vector<std::string> expected = {
+      "An error occurred while parsing the XML file.",
+      "If the program crashes after this, it doesn't handle this exception. Please report to the author."};
+  EXPECT_EQ(TakeMessages(), expected);
+}
+
+TEST_F(ContainerTest, ChunksNestNoDeeperThanWholes) {
+  zkXMLContainer container;
+  container.ParseIncrementally(Repeated("<a>", kMaxOpenElements) + "xx");
+  EXPECT_THROW(container.ParseIncrementally("<a>xx"), base::StackOverflowException);
+  EXPECT_THROW(container.ParseIncrementally("xx"), base::StackOverflowException);
+  EXPECT_FALSE(container.IsConsistent());
 }
 
 }  // namespace

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
+#include "nav/history.h"
 #include "support/reader.h"
 
 namespace quill::nav {
@@ -9,43 +12,42 @@ namespace {
 
 using tests::Reader;
 using tests::TestPage;
+using Messages = std::vector<std::string>;
 
-// Pages 1 to `count` titled P1, P2 ...; each links to all others by buttons
-// to1, to2 ... of which three stand on a line.
-std::vector<TestPage> LinkedPages(int count) {
-  std::string text;
-  std::vector<tests::TestLink> links;
-  for (int n = 0; n <= count; ++n) {
-    const std::string word = "to" + std::to_string(n);
-    links.push_back({static_cast<int>(text.size()), static_cast<int>(word.size()), std::to_string(n)});
-    text += word + " ";
+// A page of words, each of which leads to its target: "word:target word:target".
+TestPage PageOfLinks(const std::string& title, const std::string& words) {
+  TestPage page{title, {""}};
+  std::istringstream in(words);
+  for (std::string word, target; std::getline(in, word, ':') && in >> target; in.ignore()) {
+    const auto offset = static_cast<int>(page.columns[0].size());
+    page.links.push_back({offset, static_cast<int>(word.size()), target});
+    page.columns[0] += word + " ";
   }
+  return page;
+}
+
+// Pages 0 to 30 titled P0, P1 ...; each links to all by buttons to0, to1 ...
+std::vector<TestPage> LinkedPages() {
+  std::string words;
+  for (int n = 0; n <= 30; ++n) words += "to" + std::to_string(n) + ":" + std::to_string(n) + " ";
   std::vector<TestPage> pages;
-  for (int n = 0; n <= count; ++n) pages.push_back({"P" + std::to_string(n), {text}, links});
+  for (int n = 0; n <= 30; ++n) pages.push_back(PageOfLinks("P" + std::to_string(n), words));
   return pages;
 }
 
-std::string FirstLine(const std::string& dump) { return dump.substr(0, dump.find('\n')); }
-
-class DisplayWindowTest : public testing::Test {
- protected:
+struct DisplayWindowTest : testing::Test {
   DisplayWindowTest() {
-    reader_.SetPages(0, {{"Welcome",
-                          {"one two three four five bio zero none wga"},
-                          {{0, 3, "1", 9, 1, "x.pdf"},
-                           {4, 3, "2"},
-                           {8, 5, "3"},
-                           {14, 4, "4", 1},
-                           {19, 4, "5"},
-                           {24, 3, "112"},
-                           {28, 4, "0"},
-                           {33, 4, "6"},
-                           {38, 3, "100"}}}});
-    for (std::size_t mode = 1; mode <= 5; ++mode) reader_.SetPages(mode, LinkedPages(30));
+    const std::string words = "one:1 two:2 three:3 four:4 five:5 bio:112 zero:0 none:6 wga:100";
+    reader_.SetPages(0, {PageOfLinks("Welcome", words)});
+    for (std::size_t mode = 1; mode <= 5; ++mode) reader_.SetPages(mode, LinkedPages());
     reader_.Viewer();
   }
 
-  std::string State() { return FirstLine(reader_.Viewer().Dump()); }
+  // The first line of the dump.
+  std::string State() {
+    const std::string dump = reader_.Viewer().Dump();
+    return dump.substr(0, dump.find('\n'));
+  }
 
   std::string Row() {
     const std::string dump = reader_.Viewer().Dump();
@@ -69,12 +71,8 @@ TEST_F(DisplayWindowTest, ComesUpOnTheOpeningPageWhereExitLeadsOut) {
 
 // A session: the labels clicked one after the other, and where that leads.
 TEST_F(DisplayWindowTest, ClicksLead) {
-  struct Session {
-    std::vector<std::string> clicks;
-    std::string state;
-  };
-  for (const Session& row : {
-           Session{{"one"}, "mode 1 page 1 \"P1\" trail 1"},
+  using Session = std::pair<std::vector<std::string>, std::string>;
+  for (const auto& [clicks, state] : {
            Session{{"four"}, "mode 4 page 1 \"P1\" trail 1"},
            Session{{"five"}, "mode 5 page 0 \"P0\" trail"},
            Session{{"bio"}, "mode 5 page 12 \"P12\" trail 12"},
@@ -89,8 +87,8 @@ TEST_F(DisplayWindowTest, ClicksLead) {
            Session{{"two", "to4", "Back", "three"}, "mode 3 page 1 \"P1\" trail 1"},
        }) {
     reader_.Viewer().ChooseMode(0);
-    EXPECT_TRUE(reader_.Click(row.clicks)) << row.state;
-    EXPECT_EQ(State(), row.state);
+    EXPECT_TRUE(reader_.Click(clicks)) << state;
+    EXPECT_EQ(State(), state);
   }
 }
 
@@ -130,7 +128,7 @@ TEST_F(DisplayWindowTest, APageLeavesNothingOfTheOneBefore) {
   EXPECT_EQ(reader_.Screen().Dump(),
             "text \"Bare\" 77,4 494x27\nbutton \"Back\" 587,437 40x24\ntext \"V 1.2.3\" 340,61 73x20\n");
   EXPECT_NE(reader_.Screen().controls[0]->backdrop, picture);
-  reader_.SetPages(2, LinkedPages(30));
+  reader_.SetPages(2, LinkedPages());
   reader_.Viewer().ChooseMode(2);
   EXPECT_EQ(reader_.Screen().Dump(), full);
 }
@@ -140,8 +138,7 @@ TEST_F(DisplayWindowTest, DrawsThePageInWhiteOnItsGround) {
   ASSERT_TRUE(reader_.Click({"one"}));
   auto& picture = dynamic_cast<host::MemoryPicture&>(*reader_.Screen().controls[0]->backdrop);
   EXPECT_EQ(picture.GetGraphics()->Drawn(),
-            (std::vector<std::string>{"picture #171 0,0", "text \"ab\" 30,75 12 #ffffff",
-                                      "text \"cd\" 60,75 12 #ffffff b"}));
+            (Messages{"picture #171 0,0", "text \"ab\" 30,75 12 #ffffff", "text \"cd\" 60,75 12 #ffffff b"}));
   EXPECT_FALSE(reader_.Screen().ClickLabel("cd")) << "the button of a styled run stays hidden";
 }
 
@@ -157,33 +154,24 @@ TEST_F(DisplayWindowTest, OnlyPage191OfTheScreenAreaIsSetClose) {
   std::vector<TestPage> pages(192, {"P", {"a\nb"}});
   reader_.SetPages(1, pages);
   reader_.SetPages(2, pages);
-  struct Case {
-    std::int32_t mode;
-    std::string page, second_line;
-  };
-  for (const Case& row :
-       {Case{1, "191", "b 30,95\n"}, Case{1, "0191", "b 30,105\n"}, Case{2, "191", "b 30,105\n"}}) {
-    reader_.Viewer().ChooseMode(row.mode);
-    reader_.Viewer().ShowPage(row.page);
-    EXPECT_NE(reader_.Viewer().Dump().find(row.second_line), std::string::npos) << row.mode << row.page;
+  for (const auto& [mode, page, second_line] :
+       {std::tuple{1, "191", "b 30,95\n"}, {1, "0191", "b 30,105\n"}, {2, "191", "b 30,105\n"}}) {
+    reader_.Viewer().ChooseMode(mode);
+    reader_.Viewer().ShowPage(page);
+    EXPECT_NE(reader_.Viewer().Dump().find(second_line), std::string::npos) << mode << page;
   }
 }
 
 TEST_F(DisplayWindowTest, AFailedChangeOfModeKeepsTheOldPages) {
   ASSERT_TRUE(reader_.Click({"two", "to3"}));
-  struct Case {
-    std::string content, glossary;
-    std::vector<std::string> messages;
-  };
-  for (const Case& row :
-       {Case{"<Root/>", "<Root><AppInfo/></Root>", {"No AppInfo found in TVQMR.xml", "XMLFile.ini Failed!"}},
-        Case{"<Root><AppInfo/></Root>",
-             "<a/>",
-             {"No Root found in TVGlossary.xml", "GlossaryFile.ini Failed!"}}}) {
-    reader_.SetFile("TVQMR.xml", row.content);
-    reader_.SetFile("TVGlossary.xml", row.glossary);
+  const std::string good = "<Root><AppInfo/></Root>";
+  for (const auto& [content, glossary, messages] :
+       {std::tuple{"<Root/>", good, Messages{"No AppInfo found in TVQMR.xml", "XMLFile.ini Failed!"}},
+        {good.c_str(), "<a/>", Messages{"No Root found in TVGlossary.xml", "GlossaryFile.ini Failed!"}}}) {
+    reader_.SetFile("TVQMR.xml", content);
+    reader_.SetFile("TVGlossary.xml", glossary);
     reader_.Viewer().ChooseMode(3);
-    EXPECT_EQ(reader_.TakeMessages(), row.messages);
+    EXPECT_EQ(reader_.TakeMessages(), messages);
     EXPECT_EQ(State(), "mode 3 page 3 \"P3\" trail 3");
   }
 }
@@ -198,9 +186,8 @@ TEST_F(DisplayWindowTest, AnnouncesAPageWhereTheTraceIsOn) {
   reader_.App().TestMode = true;
   reader_.Viewer().ShowPage("0");
   EXPECT_EQ(reader_.TakeMessages(),
-            (std::vector<std::string>{"DisplayWindow ShowPage", "DisplayWindow DrawPage",
-                                      "DisplayWindow InitializeCanvas", "DisplayWindow InitLinkButtons",
-                                      "DisplayWindow DrawPage have page and links"}));
+            (Messages{"DisplayWindow ShowPage", "DisplayWindow DrawPage", "DisplayWindow InitializeCanvas",
+                      "DisplayWindow InitLinkButtons", "DisplayWindow DrawPage have page and links"}));
 }
 
 TEST_F(DisplayWindowTest, WithoutAPictureToDrawOnItSaysSoAndGoesOn) {
@@ -217,9 +204,40 @@ TEST(StartUpTest, WithoutItsFirstFileTheProgramEnds) {
   Reader reader;
   reader.desktop.files.Remove("Quillmere.app/Contents/Data/initQMR.xml");
   reader.Viewer();
-  EXPECT_EQ(reader.TakeMessages(),
-            (std::vector<std::string>{"Unable to locate initQMR.xml.  Program Aborting."}));
+  EXPECT_EQ(reader.TakeMessages(), (Messages{"Unable to locate initQMR.xml.  Program Aborting."}));
   EXPECT_EQ(reader.desktop.quit_code, 0);
+}
+
+History Trail(std::size_t steps) {
+  History history;
+  for (std::size_t i = 0; i < steps; ++i) history.Append(std::to_string(i + 1));
+  return history;
+}
+
+TEST(HistoryTest, RowOffersTheFirstPageAndTheLastTwoBeforeTheOneOnShow) {
+  using Row = std::vector<TrailButton>;
+  EXPECT_EQ(Trail(0).Row(), Row{});
+  EXPECT_EQ(Trail(1).Row(), (Row{{0, 0, ""}}));
+  EXPECT_EQ(Trail(2).Row(), (Row{{0, 0, ""}}));
+  EXPECT_EQ(Trail(4).Row(), (Row{{0, 0, ""}, {1, 1, "> "}, {2, 2, "> "}}));
+  EXPECT_EQ(Trail(5).Row(), (Row{{0, 0, ""}, {2, 2, "...> "}, {3, 3, "> "}}));
+  EXPECT_EQ(Trail(21).Row(), (Row{{0, 0, ""}, {18, 18, "...> "}, {19, 19, "> "}}));
+  EXPECT_EQ(Trail(22).Row(), (Row{{0, 0, ""}, {18, 19, "...> "}, {19, 20, "> "}})) << "beyond the pool";
+}
+
+TEST(HistoryTest, CutsBackToTheLastStepOnAPage) {
+  using Pages = std::vector<std::string>;
+  const std::tuple<Pages, std::string, Pages> rows[] = {
+      {{"1", "4", "7"}, "1", {}}, {{"1", "4", "1", "7"}, "1", {"1", "4"}},
+      {{"1", "4"}, "4", {"1"}},   {{"1", "4"}, "04", {}},
+      {Pages{}, "1", {}},
+  };
+  for (const auto& [trail, page, left] : rows) {
+    History history;
+    for (const std::string& step : trail) history.Append(step);
+    history.ResetHistory(page);
+    EXPECT_EQ(history.Pages(), left);
+  }
 }
 
 }  // namespace

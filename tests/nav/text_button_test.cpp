@@ -21,8 +21,7 @@ class ButtonWindow final : public host::Window {
 };
 
 // Every character is 10 wide and a line 15 high.
-class TextButtonTest : public testing::Test {
- protected:
+struct TextButtonTest : testing::Test {
   TextButtonTest() { app_.Init(); }
 
   std::vector<std::string> Drawn() {
@@ -56,19 +55,16 @@ TEST_F(TextButtonTest, DrawsItsLabelTwiceAndItsLineUnderIt) {
 }
 
 TEST_F(TextButtonTest, TypesHaveTheirColours) {
-  struct Row {
-    std::int32_t type;
-    std::string color;
-    bool line;
+  const std::tuple<std::int32_t, const char*, std::size_t> rows[] = {
+      {1, "#0aff80", 3U}, {2, "#ffffff", 3},  {5, "#ff8080", 3},   {-7, "#ff8080", 3},
+      {9, "#8080ff", 4},  {50, "#8080ff", 4}, {100, "#8080ff", 4}, {99, "#80ff80", 3},
   };
-  for (const Row& row : {Row{1, "#0aff80", false}, Row{2, "#ffffff", false}, Row{5, "#ff8080", false},
-                         Row{-7, "#ff8080", false}, Row{9, "#8080ff", true}, Row{50, "#8080ff", true},
-                         Row{100, "#8080ff", true}, Row{99, "#80ff80", false}}) {
-    button_.SetLinkType(row.type);
+  for (const auto& [type, color, drawn_things] : rows) {
+    button_.SetLinkType(type);
     button_.SetText("x");
     const auto drawn = Drawn();
-    EXPECT_EQ(drawn[1], "text \"x\" 0,15 12 " + row.color) << row.type;
-    EXPECT_EQ(drawn.size(), row.line ? 4U : 3U) << row.type;
+    EXPECT_EQ(drawn[1], std::string("text \"x\" 0,15 12 ") + color) << type;
+    EXPECT_EQ(drawn.size(), drawn_things) << type << ": the line counts";
   }
 }
 
@@ -87,16 +83,12 @@ TEST_F(TextButtonTest, GroundFollowsTheMode) {
 
 TEST_F(TextButtonTest, OnlyAReleaseWellInsidePushes) {
   button_.SetText("Go");
-  struct Row {
-    std::int32_t x, y;
-    bool pushes;
-  };
-  for (const Row& row : {Row{1, 1, true}, Row{19, 23, true}, Row{0, 5, false}, Row{5, 0, false},
-                         Row{20, 5, false}, Row{5, 24, false}, Row{-9, 5, false}}) {
+  for (const auto& [x, y, pushes] :
+       {std::tuple{1, 1, 1}, {19, 23, 1}, {0, 5, 0}, {5, 0, 0}, {20, 5, 0}, {5, 24, 0}, {-9, 5, 0}}) {
     window_.pushed = 0;
-    EXPECT_TRUE(button_.Event_MouseDown(row.x, row.y));
-    button_.Event_MouseUp(row.x, row.y);
-    EXPECT_EQ(window_.pushed, row.pushes ? 1 : 0) << row.x << "," << row.y;
+    EXPECT_TRUE(button_.Event_MouseDown(x, y));
+    button_.Event_MouseUp(x, y);
+    EXPECT_EQ(window_.pushed, pushes) << x << "," << y;
   }
 }
 

@@ -13,6 +13,7 @@
 
 #include "app/mode_table.h"
 #include "support/content_xml.h"
+#include "support/temporary_folder.h"
 
 namespace quill::tests {
 
@@ -32,23 +33,6 @@ struct Outcome {
   int status = -1;
   std::string out;
   std::string err;
-};
-
-// A folder of its own for each test, which goes with it.
-class Folder {
- public:
-  Folder() {
-    std::string name = (fs::temp_directory_path() / "quillpress_test_XXXXXX").string();
-    path_ = mkdtemp(name.data());
-  }
-  ~Folder() { fs::remove_all(path_); }
-  Folder(const Folder&) = delete;
-  Folder& operator=(const Folder&) = delete;
-
-  fs::path operator/(const std::string& name) const { return path_ / name; }
-
- private:
-  fs::path path_;
 };
 
 // The text of a content file with a whole head.
@@ -107,7 +91,7 @@ class Bundle {
     return {WEXITSTATUS(status), ReadFile(data / "../out"), ReadFile(data / "../err")};
   }
 
-  const Folder folder;
+  const TemporaryFolder folder;
   const fs::path data = folder / "Quillmere.app/Contents/Data";
 };
 

@@ -47,9 +47,8 @@ class Reader {
 
   // Clicks on each label in turn; false as soon as one isn't there.
   bool Click(const std::vector<std::string>& labels) {
-    for (const std::string& label : labels) {
+    for (const std::string& label : labels)
       if (!Screen().ClickLabel(label)) return false;
-    }
     return true;
   }
 

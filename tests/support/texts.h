@@ -21,9 +21,8 @@ struct TextCase {
 // Compares what `function` makes of each text; a failure shows text and story.
 template <typename Function>
 void ExpectEach(const Function& function, std::initializer_list<TextCase> cases) {
-  for (const TextCase& c : cases) {
+  for (const TextCase& c : cases)
     EXPECT_EQ(function(c.text), c.expected) << Quoted(c.text.substr(0, 200)) << " " << c.story;
-  }
 }
 
 inline std::string Repeated(const std::string& text, std::size_t count) {

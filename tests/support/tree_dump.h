@@ -9,6 +9,7 @@
 
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 #include "markup/element.h"
 #include "markup/exceptions.h"
@@ -19,12 +20,9 @@ inline std::string Quoted(const std::string& text) {
   std::string result = "\"";
   for (const char c : text) {
     const auto code = static_cast<unsigned char>(c);
-    if (c == '\n') {
-      result += "\\n";
-    } else if (c == '\r') {
-      result += "\\r";
-    } else if (c == '\t') {
-      result += "\\t";
+    const std::size_t named = std::string_view("\n\r\t").find(c);
+    if (named < 3) {
+      result += std::string("\\") + "nrt"[named];
     } else if (code < 32 || code > 126) {
       char hex[8];
       std::snprintf(hex, sizeof hex, "\\x%02X", code);
@@ -57,9 +55,8 @@ inline std::string DumpTree(markup::zkXMLObject& object) {
 // What an element or a document holds, without itself.
 inline std::string DumpContent(const markup::zkXMLElement& element) {
   std::string dump;
-  for (std::int32_t i = 1; i <= element.ContentCount(); ++i) {
+  for (std::int32_t i = 1; i <= element.ContentCount(); ++i)
     dump += (i == 1 ? "" : " ") + DumpTree(*element.GetContent(i));
-  }
   return dump;
 }
 

@@ -6,6 +6,7 @@
 #include "authoring/page_words.h"
 #include "authoring/press/target_resolver.h"
 #include "base/numbers.h"
+#include "content/bundle.h"
 #include "content/xml_file.h"
 #include "host/memory/memory_desktop.h"
 #include "markup/nodes.h"
@@ -15,7 +16,12 @@ namespace quill::authoring {
 namespace {
 
 constexpr const char* kFileName = "pressed.xml";
-constexpr const char* kPath = "Quillmere.app/Contents/Data/pressed.xml";
+
+// Where the file lies in the desktop in memory, for the store to find it.
+std::string Path() {
+  return std::string(content::kBundleFolder) + "/" + content::kContentsFolder + "/" + content::kDataFolder +
+         "/" + kFileName;
+}
 
 // `text` in the form in which the store takes that of a new page or link: as it
 // would stand in a file. The tree's own serialiser gives it, so that both escape the
@@ -73,7 +79,7 @@ class Presser {
 };
 
 std::optional<std::string> Presser::MakeFile() {
-  desktop_.files.AddFile(kPath, EmptyFile(manuscript_));
+  desktop_.files.AddFile(Path(), EmptyFile(manuscript_));
   const bool open = file_.Init() && file_.GetDocument(std::make_shared<content::Document>());
   if (!open) return Fail("the manuscript's settings can't be stored");
   for (const ManuscriptPage& page : manuscript_.pages) AddPage(page);
@@ -81,7 +87,7 @@ std::optional<std::string> Presser::MakeFile() {
   if (!file_.Save()) return Fail("the file can't be made");
   LookForLoss();
   if (!diagnostics_.empty()) return std::nullopt;
-  return desktop_.files.Bytes(kPath);
+  return desktop_.files.Bytes(Path());
 }
 
 // What no line of the manuscript is to blame for stands on its first.

@@ -95,8 +95,7 @@ TEST_F(CheckerTest, TellsOfACharacterOnceAPage) {
   Write(kPages, {{"Cover", {"cover"}}, {"A \x93", {"b \x93 \x94"}, {{2, 1, "2"}}}, {"B", {"\x93"}}});
   const std::string report = Run(7);
   std::size_t told = 0;
-  for (std::size_t i = 0; (i = report.find("the reader has no character", i)) != std::string::npos; ++i)
-    ++told;
+  for (std::size_t i = 0; (i = report.find("reader has no character", i)) != std::string::npos; ++i) ++told;
   EXPECT_EQ(told, 3U) << report;
 }
 

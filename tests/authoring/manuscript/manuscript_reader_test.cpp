@@ -10,6 +10,11 @@ namespace {
 
 constexpr std::string_view kKindLetters = "-#gdnmb";
 
+std::string Dump(const Run& run) {
+  return " " + std::to_string(run.word) + "+" + base::Str(run.length) + ":" + base::Str(run.target.type) +
+         kKindLetters[static_cast<std::size_t>(run.target.kind)] + run.target.name;
+}
+
 // A line for each page with its columns, text quoted; behind a column its runs, as
 // first word, length, type, kind and name.
 std::string Dump(const Manuscript& manuscript) {
@@ -18,11 +23,7 @@ std::string Dump(const Manuscript& manuscript) {
     dump += page.title + (page.name.empty() ? "" : " #" + page.name);
     for (const Column& column : page.columns) {
       dump += " | " + tests::Quoted(column.text);
-      for (const Run& run : column.runs) {
-        dump += " " + std::to_string(run.word) + "+" + base::Str(run.length) + ":" +
-                base::Str(run.target.type) + kKindLetters[static_cast<std::size_t>(run.target.kind)] +
-                run.target.name;
-      }
+      for (const Run& run : column.runs) dump += Dump(run);
     }
     dump += "\n";
   }
@@ -31,8 +32,7 @@ std::string Dump(const Manuscript& manuscript) {
 
 std::string Dump(const Diagnostics& diagnostics) {
   std::string dump;
-  for (const Diagnostic& diagnostic : diagnostics)
-    dump += base::Str(diagnostic.line) + ": " + diagnostic.sentence + "\n";
+  for (const Diagnostic& d : diagnostics) dump += base::Str(d.line) + ": " + d.sentence + "\n";
   return dump;
 }
 
@@ -51,8 +51,7 @@ TEST(ManuscriptTest, PagesAndColumns) {
   tests::ExpectEach(
       Read,
       {{"# One {#a-1_B}\ntext\n# Two\n", "One #a-1_B | \"text\"\nTwo | \"\"\n"},
-       {"# A\n\nx\ny\n\n---\n\nz\n\n***\n", "A | \"x y\" | \"z\" | \"\"\n",
-        "a line end in the source is a blank"},
+       {"# A\n\nx\ny\n\n---\n\nz\n\n***\n", "A | \"x y\" | \"z\" | \"\"\n", "a line end makes a blank"},
        {"\xEF\xBB\xBF# A  é &amp; b {#x} #\r\n\r\nc\r\n", "A \x8E & b #x | \"c\"\n", "from a word processor"},
        {"# A\n\n<br>\n\na\n\n<br>\n<br />\n\nb\n\n---\n\n<br>\n\nc", "A | \"\\na\\n\\n\\nb\" | \"\\nc\"\n"},
        {"<!--\nnote\nGutter: yes\n-->\n# A\n\na\n\n- b\n\n---\n\nc\n\n- d\n\n<br>\n\n2. e {3} f\n",
@@ -78,8 +77,7 @@ TEST(ManuscriptTest, StylesAndLinks) {
       {{"*a* **b** ***c*** <u>d</u> <u>*e*</u> *<u>e</u>* <u>**f**</u>",
         "\"a b c d e e f\" 0+1:3- 1+1:4- 2+1:5- 3+1:6- 4+1:7- 5+1:7- 6+1:8-"},
        {"*a **b** c* _d_", "\"a b c d\" 0+1:3- 1+1:5- 2+1:3- 3+1:3-", "the inner style parts the outer"},
-       {"from *him*, *two\nwords*.)", "\"from him, two words.)\" 1+3:3- 2+9:3-",
-        "points go along with a style"},
+       {"from *him*, *two\nwords*.)", "\"from him, two words.)\" 1+3:3- 2+9:3-", "points go along"},
        {"[a](#x) [b c](glossary:y) [d](doc:e.pdf) [f](notes:) [g](plain:) [h](mode:3) [i](bio:z)",
         "\"a b c d f g h i\" 0+1:0#x 1+3:1gy 3+1:9de.pdf 4+1:0n 5+1:2- 6+1:2m3 7+1:2bz"},
        {"- [a\nb](#x) {3} **c**", "\"\\ta b \\t \\tc\" 0+3:0#x 3+1:4-", "a tab alone counts as a word"},
@@ -98,9 +96,7 @@ TEST(ManuscriptTest, SaysWhatIsWrongAndWhere) {
       {"# A\n\ntext\n---\n", "3: a page has one title", "no empty line before the column's end"},
       {"# A\n---\n---\n---\n", "4: a page has three columns at most"},
       {"# A\n\na\nb [c](http://d)",
-       "4: a link can't lead to \"http://d\": write #name, glossary:name, doc:file, notes:, plain:, mode:1 "
-       "to "
-       "mode:4, or bio:name\n"},
+       "4: a link can't lead to \"http://d\": write #name, glossary:name, doc:file, notes:, plain:, mode:1"},
       {"# A\n\n[a](mode:0)", "3: a link can't lead", "the opening page itself"},
       {"# A\n\n[a](mode:5)", "3: a link can't lead", "Bio, which is entered by page"},
       {"# A\n\n[a](mode:01)", "3: a link can't lead"},
@@ -119,9 +115,8 @@ TEST(ManuscriptTest, SaysWhatIsWrongAndWhere) {
       {"# A\n\n\x01\xFF", "3: a page can't show the character (U+0001)\n3: these bytes are no characters"},
   };
   for (const tests::TextCase& c : cases) {
-    const std::string diagnostics = Dump(ReadManuscript(c.text).diagnostics);
-    EXPECT_TRUE(diagnostics.starts_with(c.expected)) << tests::Quoted(c.text) << " " << c.story << "\n"
-                                                     << diagnostics;
+    const std::string found = Dump(ReadManuscript(c.text).diagnostics);
+    EXPECT_TRUE(found.starts_with(c.expected)) << tests::Quoted(c.text) << " " << c.story << "\n" << found;
   }
 }
 

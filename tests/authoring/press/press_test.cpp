@@ -11,6 +11,7 @@
 #include "content/xml_file.h"
 #include "host/memory/memory_desktop.h"
 #include "render/page_settings.h"
+#include "support/document_dump.h"
 #include "support/texts.h"
 
 namespace quill::authoring {
@@ -28,8 +29,7 @@ std::string PressText(const std::string& markdown) {
   const auto bytes = Press(manuscript, {&glossary, &lives}, diagnostics);
   EXPECT_NE(bytes.has_value(), !diagnostics.empty());
   std::string lines;
-  for (const Diagnostic& diagnostic : diagnostics)
-    lines += base::Str(diagnostic.line) + ": " + diagnostic.sentence + "\n";
+  for (const Diagnostic& d : diagnostics) lines += base::Str(d.line) + ": " + d.sentence + "\n";
   return bytes.value_or(lines);
 }
 
@@ -46,38 +46,23 @@ struct Loaded {
   std::shared_ptr<content::Document> document = std::make_shared<content::Document>();
 };
 
-// Of each page id, title and texts, and each link as column, offset, length,
-// target, type and file.
-std::string Dump(const content::Document& document) {
-  std::string dump;
-  for (std::int32_t i = 0; i <= document.GetUbound(); ++i) {
-    const content::Page& page = *document.GetPageByOffset(i);
-    dump += page.GetPageID() + " " + page.GetTitle();
-    for (std::int32_t c = 1; c <= page.GetColumns(); ++c) dump += " " + tests::Quoted(page.GetText(c));
-    for (const auto& link : LinksOf(page)) {
-      dump += " " + std::to_string(link->GetColumn()) + ":" + link->GetOffset() + "+" + link->GetLength() +
-              ">" + link->GetLinkToPage() + ":" + std::to_string(link->GetType()) + link->GetFilename();
-    }
-    dump += "\n";
-  }
-  return dump;
+std::string Load(const std::string& markdown) {
+  return tests::DumpDocument(*Loaded(PressText(markdown)).document);
 }
 
-std::string Load(const std::string& markdown) { return Dump(*Loaded(PressText(markdown)).document); }
-
 TEST(PressTest, NamesOffsetsByTheLayoutsCount) {
-  tests::ExpectEach(Load,
-                    {{"# A\n\n[No](plain:) **now.**\n\n- [See](plain:) [it](plain:)\n",
-                      "0 A \"No now.\\n\\tSee it\" 1:0+2>0:2 1:3+4>0:4 1:10+3>0:2 1:14+2>0:2\n",
-                      "the layout's own example"},
-                     {"# A\n\n<br>\n\n{2} [b](plain:) c\n\n---\n\nd {1} *e f*\n\n---\n\n**g**\n",
-                      "0 A \"\\n\\t \\tb c\" \"d \\te f\" \"g\" 1:4+1>0:2 2:3+3>0:3 3:0+1>0:4\n",
-                      "each column counts anew"},
-                     {"# A {#a}\n\n[b](#b) [f](glossary:first) [s](glossary:second)\n\n# B {#b}\n\n[a](#a) "
-                      "[d](doc:d.pdf)\n",
-                      "0 A \"b f s\" 1:0+1>1:0 1:2+1>0:1 1:4+1>1:1\n1 B \"a d\" 1:0+1>0:0 1:2+1>0:9d.pdf\n"},
-                     {"# A\n\n[Stage](mode:2) [Ann](bio:ann) *x*\n",
-                      "0 A \"Stage Ann x\" 1:0+5>2:2 1:6+3>101:2 1:10+1>0:3\n"}});
+  tests::ExpectEach(
+      Load,
+      {{"# A\n\n[No](plain:) **now.**\n\n- [See](plain:) [it](plain:)\n",
+        "0 A \"No now.\\n\\tSee it\" 1:0+2>0:2 1:3+4>0:4 1:10+3>0:2 1:14+2>0:2\n",
+        "the layout's own example"},
+       {"# A\n\n<br>\n\n{2} [b](plain:) c\n\n---\n\nd {1} *e f*\n\n---\n\n**g**\n",
+        "0 A \"\\n\\t \\tb c\" \"d \\te f\" \"g\" 1:4+1>0:2 2:3+3>0:3 3:0+1>0:4\n",
+        "each column counts anew"},
+       {"# A {#a}\n[b](#b) [f](glossary:first) [s](glossary:second)\n# B {#b}\n[a](#a) [d](doc:d.pdf)\n",
+        "0 A \"b f s\" 1:0+1>1:0 1:2+1>0:1 1:4+1>1:1\n1 B \"a d\" 1:0+1>0:0 1:2+1>0:9d.pdf\n"},
+       {"# A\n\n[Stage](mode:2) [Ann](bio:ann) *x*\n",
+        "0 A \"Stage Ann x\" 1:0+5>2:2 1:6+3>101:2 1:10+1>0:3\n"}});
 }
 
 TEST(PressTest, KeepsAwkwardTextToTheLetter) {
@@ -89,7 +74,7 @@ TEST(PressTest, KeepsAwkwardTextToTheLetter) {
             "Q & \x8E"
             "2.3");
   EXPECT_EQ(loaded.file.GetLastPageID(), 1);
-  EXPECT_EQ(Dump(*loaded.document),
+  EXPECT_EQ(tests::DumpDocument(*loaded.document),
             "0 T & <\"'\x8E \"a & b <c> \"d\" 'e' ]]> f\" \"caf\\x8E & \\tx\\ny <b>\" \"\\xCA ^ % & ;\"\n1 B "
             "\"\"\n");
 }

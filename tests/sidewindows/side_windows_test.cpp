@@ -7,8 +7,7 @@
 namespace quill::sidewindows {
 namespace {
 
-class NotesTest : public testing::Test {
- protected:
+struct NotesTest : testing::Test {
   NotesTest() { Start(); }
 
   // A run of the program on the files that the run before left.
@@ -32,7 +31,7 @@ class NotesTest : public testing::Test {
 
 TEST_F(NotesTest, TextSurvivesClosingAndANewRun) {
   for (const std::string text :
-       {"one", "two\nlines\n", "cr lf\r\nand cr\rand none", "\ttab", "\xF0\x9F\x96\x8B", ""}) {
+       {"one", "two\nlines\n", "cr lf\r\ncr\rnone", "\ttab", "\xF0\x9F\x96\x8B", ""}) {
     ASSERT_TRUE(reader_->Click({"notes"}));
     Notes().Type(text);
     Notes().CloseBox();
@@ -85,6 +84,60 @@ TEST_F(NotesTest, WhatCannotBeReadOrWrittenStays) {
   reader_->desktop.no_preferences_folder = true;
   ASSERT_TRUE(reader_->Click({"notes"}));
   Notes().CloseBox();
+}
+
+struct GlossaryWindowTest : testing::Test {
+  GlossaryWindowTest() {
+    const std::vector<tests::TestPage> pages = {
+        {"P0", {""}}, {"P1", {"one two far"}, {{0, 3, "0", 1}, {4, 3, "1", 1}, {8, 3, "7", 1}}}};
+    for (std::size_t mode = 1; mode <= 5; ++mode) {
+      reader_.SetPages(mode, pages);
+      reader_.SetFile(app::kModes[mode].glossary_file,
+                      tests::ContentXml({{"First", {"a bc"}}, {"Next", {""}}}));
+    }
+    reader_.Viewer();
+  }
+
+  host::MemoryScreen& Glossary() { return *reader_.desktop.screens.back(); }
+
+  std::vector<std::string> Drawn() {
+    return dynamic_cast<host::MemoryPicture&>(*Glossary().controls[0]->backdrop).GetGraphics()->Drawn();
+  }
+
+  tests::Reader reader_;
+};
+
+TEST_F(GlossaryWindowTest, OpensInTheMiddleOfTheViewerWithTheLookOfItsMode) {
+  for (const auto& [mode, bg] : {std::pair{1, "#172"}, {2, "#169"}, {3, "#169"}, {4, "#169"}, {5, "#169"}}) {
+    reader_.Viewer().ChooseMode(mode);
+    if (mode == 5) reader_.Viewer().ShowPage("1");
+    ASSERT_TRUE(reader_.Click({"one"})) << mode;
+    EXPECT_EQ(Glossary().frame, (base::Rect{188, 110, 464, 360})) << mode;
+    EXPECT_EQ(Glossary().Dump(), "button \"Close\" 376,325 50x24\ntext \"First\" 7,6 428x20\n") << mode;
+    EXPECT_EQ(Drawn(),
+              (std::vector<std::string>{std::string("picture ") + bg + " 0,0", "text \"a\" 10,45 12 #ffffff",
+                                        "text \"bc\" 30,45 12 #ffffff"}))
+        << mode;
+    ASSERT_TRUE(Glossary().ClickLabel("Close"));
+    EXPECT_FALSE(Glossary().shown) << mode;
+  }
+}
+
+TEST_F(GlossaryWindowTest, ASecondLinkDrawsOnACleanGround) {
+  reader_.Viewer().ChooseMode(2);
+  ASSERT_TRUE(reader_.Click({"one", "two"}));
+  EXPECT_EQ(reader_.desktop.screens.size(), 2U) << "the window that is open serves";
+  EXPECT_EQ(Glossary().controls[2]->text, "Next");
+  EXPECT_EQ(Drawn(), (std::vector<std::string>{"picture #169 0,0"}));
+  ASSERT_TRUE(reader_.Click({"Back"})) << "the viewer can be used behind it";
+  EXPECT_TRUE(Glossary().shown);
+}
+
+TEST_F(GlossaryWindowTest, AnEntryThatIsNotThereLeavesTheGroundBare) {
+  reader_.Viewer().ChooseMode(2);
+  ASSERT_TRUE(reader_.Click({"far"}));
+  EXPECT_EQ(Glossary().controls[2]->text, "Label:");
+  EXPECT_EQ(Drawn().size(), 1U);
 }
 
 }  // namespace
