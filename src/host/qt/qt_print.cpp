@@ -7,6 +7,8 @@
 #include <QPrinter>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <utility>
+#include <vector>
 
 #include "host/qt/qt_reading.h"
 
@@ -29,8 +31,57 @@ QTextCharFormat FormatOf(const QtReading::Run& run, double points) {
   return format;
 }
 
-// A tab at the head of a paragraph, or of words, is an indent: a few blanks do.
-QString Indented(QString text) { return text.replace(QLatin1Char('\t'), QStringLiteral("\u2003")); }
+// What parts words from an indent: tabs and the blanks among them.
+bool IsGap(QChar c) { return c == QLatin1Char('\t') || c == QLatin1Char(' '); }
+
+// A paragraph as a page indents it: each tab leads to the next stop from the left,
+// wherever the pen is, and later lines begin at the last stop. Tabs that follow each
+// other become one, which leads to a stop of its own.
+class IndentedParagraph {
+ public:
+  IndentedParagraph(const QtReading::Paragraph& paragraph, double points) : points_(points) {
+    for (const QtReading::Run& run : paragraph) Take(run);
+  }
+
+  QTextBlockFormat BlockFormat(QTextBlockFormat format) const {
+    if (stops_.isEmpty()) return format;
+    format.setTabPositions(stops_);
+    format.setLeftMargin(stops_.back().position);
+    format.setTextIndent(-stops_.back().position);
+    return format;
+  }
+
+  void Insert(QTextCursor& cursor) const {
+    for (const auto& [text, format] : pieces_) cursor.insertText(text, format);
+  }
+
+ private:
+  // The gap before the words of a link is none of its words.
+  void Take(const QtReading::Run& run) {
+    qsizetype begin = 0;
+    for (qsizetype at = run.text.indexOf(QLatin1Char('\t')); at >= 0;
+         at = run.text.indexOf(QLatin1Char('\t'), begin)) {
+      pieces_.emplace_back(run.text.mid(begin, at - begin), FormatOf(run, points_));
+      begin = at;
+      for (; begin < run.text.size() && IsGap(run.text[begin]); ++begin)
+        tabs_ += run.text[begin] == QLatin1Char('\t') ? 1 : 0;
+      AddStop();
+    }
+    pieces_.emplace_back(run.text.mid(begin), FormatOf(run, points_));
+  }
+
+  // The stops of a page are 25 pixels apart, where its letters have 12.
+  void AddStop() {
+    constexpr double kStopPerPoint = 25.0 / 12 * 96 / 72;
+    pieces_.emplace_back(QStringLiteral("\t"), FormatOf({}, points_));
+    stops_.append(QTextOption::Tab(tabs_ * kStopPerPoint * points_, QTextOption::LeftTab));
+  }
+
+  double points_;
+  int tabs_ = 0;
+  QList<QTextOption::Tab> stops_;
+  std::vector<std::pair<QString, QTextCharFormat>> pieces_;
+};
 
 void Typeset(const QtReading& reading, double points, QTextDocument& document) {
   document.setDocumentMargin(0);
@@ -42,9 +93,9 @@ void Typeset(const QtReading& reading, double points, QTextDocument& document) {
   for (const QtReading::Column& column : reading.columns) {
     for (const QtReading::Paragraph& paragraph : column) {
       if (TextOf(paragraph).trimmed().isEmpty()) continue;
-      cursor.insertBlock(spaced);
-      for (const QtReading::Run& run : paragraph)
-        cursor.insertText(Indented(run.text), FormatOf(run, points));
+      const IndentedParagraph indented(paragraph, points);
+      cursor.insertBlock(indented.BlockFormat(spaced));
+      indented.Insert(cursor);
     }
   }
 }
