@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QKeyEvent>
 #include <QPdfWriter>
+#include <QWheelEvent>
 #include <array>
 
 #include "host/desktop_under_test.h"
@@ -199,7 +200,9 @@ TEST_F(QtWindowTest, TheZoomChangesTheScreenAndNothingElse) {
   Key(Qt::CTRL | Qt::Key_Plus);
   EXPECT_EQ(Widget().size(), size * 1.25);
   EXPECT_EQ(window_.Width(), 400) << "in the program's pixels";
-  for (int i = 0; i < 2; ++i) Key(Qt::CTRL | Qt::Key_Minus);
+  Key(Qt::CTRL | Qt::Key_Minus);
+  QWheelEvent back({}, {}, {}, {0, -120}, Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(Widget().GetReading().way_out, &back);
   EXPECT_EQ(Widget().size(), size * 0.75);
   Key(Qt::CTRL | Qt::Key_0);
   for (int i = 0; i < 12; ++i) Key(Qt::CTRL | Qt::Key_Plus);

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 
@@ -131,10 +132,12 @@ void CanvasWidget::PaintUnderline(QPainter& painter) const {
   painter.drawLine(QLineF(0, frame_.height - kFromBelow, frame_.width, frame_.height - kFromBelow));
 }
 
-// The window has the menu.
+// The window has the menu, and zooms by the wheel.
 void CanvasWidget::contextMenuEvent(QContextMenuEvent* event) {
   QCoreApplication::sendEvent(window(), event);
 }
+
+void CanvasWidget::wheelEvent(QWheelEvent* event) { QCoreApplication::sendEvent(window(), event); }
 
 // The mouse's back button is the key "back" by other means.
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
