@@ -18,9 +18,10 @@ fail() {
   exit 1
 }
 
-# The X server writes its display number when it is ready.
+# The X server writes its display number when it is ready. It must not begin anew when its last client
+# goes: the next one may be on its way in.
 mkfifo "$work/display"
-Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
+Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset 3>"$work/display" 2>/dev/null &
 server=$!
 read -r number <"$work/display"
 export DISPLAY=:$number XDG_RUNTIME_DIR=$work XDG_CONFIG_HOME=$work/config
