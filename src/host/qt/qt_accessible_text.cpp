@@ -101,8 +101,8 @@ class WordsNode final : public TextNode, public QAccessibleTextInterface {
   QString text_;
 };
 
-// In the form of the accessibility bus: "name:value;", from the IAccessible2
-// specification of text attributes.
+// In the form of the accessibility bus: "name:value;", with the names that
+// IAccessible2 gives to text attributes.
 QString WordsNode::attributes(int offset, int* start, int* end) const {
   int at = 0;
   for (const QtReading::Run& run : runs_) {
