@@ -62,20 +62,13 @@ class AccessibleWindow final : public QAccessibleWidget {
     return title + QLatin1String(" - ") + window_.windowTitle();
   }
   int childCount() const override {
-    return Reading() == nullptr ? QAccessibleWidget::childCount()
-                                : static_cast<int>(Reading()->Children().size());
+    return Reading() == nullptr ? QAccessibleWidget::childCount() : Reading()->Count();
   }
   QAccessibleInterface* child(int index) const override {
-    if (Reading() == nullptr) return QAccessibleWidget::child(index);
-    const auto children = Reading()->Children();
-    const bool known = index >= 0 && index < static_cast<int>(children.size());
-    return known ? children[static_cast<std::size_t>(index)] : nullptr;
+    return Reading() == nullptr ? QAccessibleWidget::child(index) : Reading()->Child(index);
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
-    if (Reading() == nullptr) return QAccessibleWidget::indexOfChild(child);
-    const auto children = Reading()->Children();
-    const auto found = std::find(children.begin(), children.end(), child);
-    return found == children.end() ? -1 : static_cast<int>(found - children.begin());
+    return Reading() == nullptr ? QAccessibleWidget::indexOfChild(child) : Reading()->IndexOf(child);
   }
 
  private:

@@ -155,11 +155,18 @@ void AccessibleReading::Add(QAccessibleInterface* node, std::vector<CanvasWidget
   nodes_.push_back({QAccessible::registerAccessibleInterface(node), std::move(links)});
 }
 
-std::vector<QAccessibleInterface*> AccessibleReading::Children() const {
-  std::vector<QAccessibleInterface*> children;
-  for (const Node& node : nodes_) children.push_back(QAccessible::accessibleInterface(node.id));
-  if (way_out_) children.push_back(QAccessible::queryAccessibleInterface(way_out_));
-  return children;
+// The way out stands behind all text.
+QAccessibleInterface* AccessibleReading::Child(int index) const {
+  if (index < 0 || index >= Count()) return nullptr;
+  const auto place = static_cast<std::size_t>(index);
+  if (place == nodes_.size()) return QAccessible::queryAccessibleInterface(way_out_);
+  return QAccessible::accessibleInterface(nodes_[place].id);
+}
+
+int AccessibleReading::IndexOf(const QAccessibleInterface* child) const {
+  int index = Count() - 1;
+  while (index >= 0 && Child(index) != child) --index;
+  return index;
 }
 
 QAccessibleInterface* AccessibleReading::ParentOf(const CanvasWidget& canvas) const {

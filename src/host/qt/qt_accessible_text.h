@@ -19,8 +19,11 @@ class AccessibleReading {
   AccessibleReading(const AccessibleReading&) = delete;
   AccessibleReading& operator=(const AccessibleReading&) = delete;
 
-  // Children of the window, in reading order.
-  std::vector<QAccessibleInterface*> Children() const;
+  // Children of the window, in reading order: their number, the one at an index
+  // (null outside), and the index of one (-1 for a stranger).
+  int Count() const { return static_cast<int>(nodes_.size()) + (way_out_ ? 1 : 0); }
+  QAccessibleInterface* Child(int index) const;
+  int IndexOf(const QAccessibleInterface* child) const;
 
   // What a canvas lies in: a paragraph, the trail, null for the window itself.
   QAccessibleInterface* ParentOf(const CanvasWidget& canvas) const;

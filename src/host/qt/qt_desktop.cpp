@@ -67,13 +67,9 @@ bool HasDisplay() {
 class DisplayGuard {
  public:
   DisplayGuard() : before_(qInstallMessageHandler(Take)) {}
-  ~DisplayGuard() { Release(); }
+  ~DisplayGuard() { qInstallMessageHandler(before_); }
   DisplayGuard(const DisplayGuard&) = delete;
   DisplayGuard& operator=(const DisplayGuard&) = delete;
-
-  void Release() {
-    if (before_ != kReleased) qInstallMessageHandler(std::exchange(before_, kReleased));
-  }
 
  private:
   static void Take(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
@@ -83,8 +79,6 @@ class DisplayGuard {
               << text.section(QLatin1Char('\n'), 0, 0).toStdString() << std::endl;
     std::_Exit(1);
   }
-  static void Nothing(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*text*/) {}
-  static constexpr QtMessageHandler kReleased = Nothing;
 
   QtMessageHandler before_;
 };
@@ -96,7 +90,7 @@ struct QtDesktop::Parts {
         options(Prepared(std::move(given))),
         toolkit(argc, argv, [this](const std::string& what) { Fail(what); }),
         view(options.screen == Screen::kNone ? std::filesystem::path() : ViewFile()) {
-    guard.Release();
+    guard.reset();
     RegisterPictures();
     QApplication::setApplicationName(QString::fromStdString(product.name));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -110,7 +104,7 @@ struct QtDesktop::Parts {
 
   Product product;
   Options options;
-  DisplayGuard guard;
+  std::optional<DisplayGuard> guard = std::make_optional<DisplayGuard>();  // until the toolkit is there
   GuardedApplication toolkit;
   QtMetrics metrics;
   QtView view;

@@ -136,8 +136,8 @@ void FocusWay::Type(const QString& letters) {
   const auto current = std::find(order_.begin(), order_.end(), Current());
   const auto count = static_cast<std::ptrdiff_t>(order_.size());
   const std::ptrdiff_t at = current == order_.end() ? -1 : current - order_.begin();
+  const std::ptrdiff_t first = at >= 0 && typed_.size() > 1 ? at : at + 1;
   for (std::ptrdiff_t i = 0; i < count; ++i) {
-    const std::ptrdiff_t first = at < 0 ? 0 : typed_.size() > 1 ? at : at + 1;
     const auto& widget = order_[static_cast<std::size_t>((first + i) % count)];
     if (widget && HasWordFrom(widget->Name(), typed_)) return GoTo(widget);
   }

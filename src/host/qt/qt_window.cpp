@@ -99,10 +99,7 @@ WindowWidget::WindowWidget(const WindowStyle& style, Window& window, QtView& vie
   qApp->installEventFilter(this);
 }
 
-WindowWidget::~WindowWidget() {
-  view_.RemoveListener(*this);
-  accessible_.reset();
-}
+WindowWidget::~WindowWidget() { view_.RemoveListener(*this); }
 
 bool WindowWidget::IsMain() const { return style_.frame != kDialog && !style_.close_button; }
 
@@ -178,8 +175,7 @@ void WindowWidget::KeepPlace() {
 }
 
 void WindowWidget::FollowScreen() {
-  QScreen* const now = screen();
-  connect(now, &QScreen::availableGeometryChanged, this, &WindowWidget::Relayout, Qt::UniqueConnection);
+  connect(screen(), &QScreen::availableGeometryChanged, this, &WindowWidget::Relayout, Qt::UniqueConnection);
   Relayout();
 }
 
