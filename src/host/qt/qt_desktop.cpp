@@ -72,11 +72,11 @@ class DisplayGuard {
   DisplayGuard& operator=(const DisplayGuard&) = delete;
 
  private:
-  static void Take(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+  // The toolkit's own words speak of installing it anew, which mends nothing.
+  static void Take(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*text*/) {
     if (type != QtFatalMsg) return;
     const char* const display = std::getenv("DISPLAY");
-    std::cerr << "The display can't be opened" << (display ? ": " + std::string(display) : "") << ". "
-              << text.section(QLatin1Char('\n'), 0, 0).toStdString() << std::endl;
+    std::cerr << "The display can't be opened" << (display ? ": " + std::string(display) : "") << std::endl;
     std::_Exit(1);
   }
 
