@@ -192,8 +192,17 @@ class Window {
 
   WindowPeer& Peer() { return *peer_; }
 
-  // The user asks that what the window holds be saved now.
+  // Shows a word of the desktop's own (UTF-8) in the window, or takes it off if it is
+  // empty.
+  void SetNotice(const std::string& words) { peer_->SetNotice(words); }
+
+  // What the window holds is to be saved now: the user asks for it, or the desktop is
+  // going.
   virtual void Event_Save() {}
+
+  // Text was typed within the last two seconds, or the window loses the focus: time
+  // for a copy, should the program come to a sudden end.
+  virtual void Event_Keep() {}
 
  protected:
   virtual void Event_Open() {}

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "host/files.h"
 #include "host/graphics.h"
@@ -29,6 +30,11 @@ class Desktop {
   // nothing is shown any more.
   virtual void MsgBox(const std::string& text) = 0;
 
+  // A word of the desktop's own (UTF-8), for what the program itself passes over in
+  // silence. `rescued` is text that would be lost without it, shown to be copied;
+  // empty if there is none. Shown after `Quit` too, unless the session is ending.
+  virtual void Tell(const std::string& words, const std::string& rescued) = 0;
+
   // Asks the event loop to end with that exit status; of several the first counts.
   // Comes back to its caller; before the loop has begun it keeps the loop from
   // beginning.
@@ -39,6 +45,10 @@ class Desktop {
 
   // The folder in which the user's preferences lie; null if it can't be told.
   virtual std::shared_ptr<FolderItem> PreferencesFolder() = 0;
+
+  // The folders for copies of text that isn't saved yet, best first; none if there is
+  // no place for them.
+  virtual std::vector<std::shared_ptr<FolderItem>> RecoveryFolders() = 0;
 
   // Starts the application with that creator code on the document at `path`
   // (`FolderItem::Path`) and goes on at once; false if none could be started.

@@ -22,6 +22,13 @@ std::optional<std::string> ReadWhole(const FolderItem& file) {
   return bytes;
 }
 
+bool SaveWhole(const FolderItem& file, const std::string& text) {
+  const std::unique_ptr<TextOutputStream> stream = file.CreateTextFile();
+  if (!stream) return false;
+  stream->Write(text);
+  return stream->Close();
+}
+
 std::string TextInputStream::ReadLine() {
   std::size_t end = text_.find_first_of("\r\n", at_);
   if (end == std::string::npos) end = text_.size();

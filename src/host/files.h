@@ -88,6 +88,10 @@ class FolderItem {
   // Where it is, as the desktop names places.
   virtual std::string Path() const = 0;
 
+  // Takes the file away, and what saves of it that came to a sudden end have left
+  // beside it. True if nothing is there any more.
+  virtual bool Remove() const = 0;
+
   // The same as `CreateTextFile` for a file that others may read as they read the old one, or as is
   // usual where there was none.
   std::unique_ptr<TextOutputStream> CreateSharedFile() const { return Create(Readers::kAsBefore); }
@@ -99,6 +103,10 @@ class FolderItem {
 
 // All bytes of the file; none if it can't be opened or not be read to its end.
 std::optional<std::string> ReadWhole(const FolderItem& file);
+
+// Makes the file anew with `text`, as `CreateTextFile` has it. False if it couldn't be
+// put in its place; what was there is still.
+bool SaveWhole(const FolderItem& file, const std::string& text);
 
 // Whether `name` names a place right inside a folder; see `FolderItem::Child`.
 bool IsPlainName(const std::string& name);

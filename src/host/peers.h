@@ -126,6 +126,10 @@ class WindowPeer {
   // changed.
   virtual void SetReading(const Reading& reading) = 0;
 
+  // Shows a word (UTF-8) that isn't the program's, beside what the window shows, until
+  // the next; empty for none.
+  virtual void SetNotice(const std::string& words) = 0;
+
   // Puts the window on the screen, in front of the others, and brings back one that
   // was minimised; takes it off.
   virtual void Show() = 0;

@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "app/mode_table.h"
+#include "authoring/area.h"
 #include "authoring/complaint.h"
 #include "content/bundle.h"
 #include "host/qt/qt_files.h"
@@ -32,6 +34,7 @@ class ViewFolder final : public host::FolderItem {
   }
 
   std::unique_ptr<host::BinaryStream> OpenAsBinaryFile() const override { return nullptr; }
+  bool Remove() const override { return false; }
   std::unique_ptr<host::TextOutputStream> Create(Readers /*readers*/) const override { return nullptr; }
 
  private:
@@ -62,6 +65,11 @@ bool IsInBundle(const fs::path& data) {
 void RequireFolder(const fs::path& path) {
   std::error_code error;
   if (!fs::is_directory(path, error)) throw authoring::FileComplaint(path.string() + " is no folder.");
+}
+
+void RequireContent() {
+  for (const app::Mode& mode : app::kModes)
+    for (const auto name : {mode.content_file, mode.glossary_file}) authoring::RequireFile(std::string(name));
 }
 
 // The folders around `data` are made up by name: whatever they are called on the disk,

@@ -8,6 +8,7 @@
 #include "app/product.h"
 #include "content/bundle.h"
 #include "host/qt/qt_desktop.h"
+#include "host/qt/qt_instance.h"
 #include "reader/program.h"
 
 namespace {
@@ -66,7 +67,10 @@ int main(int argc, char** argv) {
     std::fputs("quillmere: there is no display to open a window on\n", stderr);
     return 1;
   }
+  quill::host::Instance instance("quillmere");
+  if (instance.IsSecond()) return 0;
   quill::host::QtDesktop desktop(argc, argv, quill::app::Quillmere());
+  desktop.Heed(instance);
   TellOfMissingBundle();
   return Read(desktop);
 }

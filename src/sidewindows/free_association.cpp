@@ -26,30 +26,29 @@ FreeAssociation::FreeAssociation()
       EditField1(AddControl<host::EditField>(nullptr, base::Rect{4, 4, 624, 341},
                                              host::SystemText(10, base::kBlack), base::kWhite)) {}
 
-// Each line comes with its line end, so that the lines stay lines.
 void FreeAssociation::OpenFile() {
   const auto folder = host::PreferencesFolder();
   TheFile = folder ? folder->Child(kNotesFile) : nullptr;
-  if (!TheFile) return;
-  std::string text;
-  if (const auto stream = TheFile->OpenAsTextFile()) {
-    while (!stream->AtEnd()) text += stream->ReadLine();
-    stream->Close();
-  } else {
-    unread_ = TheFile->Exists();
-  }
-  EditField1.SetText(text);
+  notes_.emplace(folder, kNotesFile, host::Desktop::Current().RecoveryFolders());
+  const host::KeptNotes::Opened opened = notes_->Open();
+  EditField1.SetText(opened.text);
+  SetNotice(opened.words);
 }
 
-void FreeAssociation::SaveFile() {
-  const auto folder = host::PreferencesFolder();
-  TheFile = folder ? folder->Child(kNotesFile) : nullptr;
-  const std::string text = EditField1.Text();
-  if (!TheFile || (unread_ && text.empty())) return;
-  if (const auto stream = TheFile->CreateTextFile()) {
-    stream->Write(text);
-    stream->Close();
-  }
+host::KeptNotes::Saved FreeAssociation::SaveFile() {
+  return notes_ ? notes_->Save(EditField1.Text()) : host::KeptNotes::Saved();
+}
+
+// While the pad is open there is nothing to rescue: the text stays in the field.
+void FreeAssociation::Event_Save() { SetNotice(SaveFile().words); }
+
+void FreeAssociation::Event_Keep() {
+  if (notes_) notes_->Keep(EditField1.Text());
+}
+
+void FreeAssociation::Event_Close() {
+  const host::KeptNotes::Saved saved = SaveFile();
+  if (!saved.words.empty()) host::Desktop::Current().Tell(saved.words, saved.lost ? EditField1.Text() : "");
 }
 
 }  // namespace quill::sidewindows

@@ -24,7 +24,8 @@ mkfifo "$work/display"
 Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset 3>"$work/display" 2>/dev/null &
 server=$!
 read -r number <"$work/display"
-export DISPLAY=:$number XDG_RUNTIME_DIR=$work XDG_CONFIG_HOME=$work/config
+export DISPLAY=:$number XDG_RUNTIME_DIR=$work XDG_CONFIG_HOME=$work/config \
+  XDG_STATE_HOME=$work/state
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM QT_SCALE_FACTOR
 
 # Waits at most ten seconds until the command that follows says yes.
@@ -62,6 +63,13 @@ click() {
 }
 
 is_gone() { ! kill -0 "$1" 2>/dev/null; }
+
+# Waits for the program to end, however it does.
+ended_badly() {
+  until_true is_gone "$program" || fail "the program didn't end"
+  wait "$program" 2>/dev/null || true
+  program=
+}
 
 # Waits for the program to end, which it must do well.
 ended() {

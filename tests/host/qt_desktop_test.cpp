@@ -213,9 +213,9 @@ TEST_F(QtEditField, KeepsTheRestWhenTheUserTypes) {
       {"no-break\xC2\xA0space", "no-break\xC2\xA0spacex"},
       {"\ttabs\t", "\ttabs\tx"},
       {"many\n\n lines \n", "many\n\n lines \nx"},
-      {"DOS\r\n\r\nlines\r\n", "DOS\r\n\r\nlines\r\nx"},
-      {"a\r\nmixture\nof\rlines", "a\nmixture\nof\nlinesx"},
-      {"\xD2Mac Roman\xD3\x01", "\xE2\x80\x9CMac Roman\xE2\x80\x9D\xE2\x90\x81x"},
+      {"a\r\nmixture\nof\rlines\xE2\x80\xA8", "a\r\nmixture\nof\rlines\xE2\x80\xA8x"},
+      {"\xEF\xBB\xBF\xD2 bad \xFF\x01\xEF\xB7\x90 bytes \xE2\x80",
+       "\xEF\xBB\xBF\xD2 bad \xFF\x01\xEF\xB7\x90 bytes \xE2\x80x"},
   };
   for (const auto& [given, typed] : rows) {
     field_.SetText(given);
@@ -224,7 +224,6 @@ TEST_F(QtEditField, KeepsTheRestWhenTheUserTypes) {
     QCoreApplication::sendEvent(&widget_, &press);
     EXPECT_EQ(field_.Text(), typed) << given;
   }
-  EXPECT_EQ(widget_.toPlainText().toStdString(), rows[std::size(rows) - 1].second) << "as it is shown";
 }
 
 TEST_F(QtEditField, KeepsItsDistancesFromTheEdges) {

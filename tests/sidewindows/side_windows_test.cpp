@@ -10,12 +10,13 @@ namespace {
 struct NotesTest : testing::Test {
   NotesTest() { Start(); }
 
-  // A run of the program on the files that the run before left.
+  // A run of the program on the files that the run before left, however it ended.
   void Start() {
-    host::MemoryFiles files = reader_ ? reader_->desktop.files : host::MemoryFiles();
+    const auto left = reader_ ? reader_->desktop.files.All() : std::map<std::string, std::string>();
     reader_.reset();
     reader_.emplace();
-    if (!files.Bytes(kNotes).empty()) reader_->desktop.files.AddFile(kNotes, files.Bytes(kNotes));
+    for (const auto& [path, bytes] : left)
+      if (!path.starts_with("Quillmere.app")) reader_->desktop.files.AddFile(path, bytes);
     reader_->SetPages(1, {{"P0", {""}}, {"P1", {"notes"}, {{0, 5, "0", 0}}}});
     reader_->SetPages(2, {{"P0", {""}}, {"P1", {"notes"}, {{0, 5, "0", 0}}}});
     reader_->Viewer().ChooseMode(1);
@@ -24,6 +25,25 @@ struct NotesTest : testing::Test {
   host::MemoryScreen& Notes() { return *reader_->desktop.screens.back(); }
   std::string Field() { return Notes().controls.at(0)->text; }
   std::string OnDisk() { return reader_->desktop.files.Bytes(kNotes); }
+
+  // What all files in the folder hold, but the notes themselves.
+  std::string In(const std::string& folder) {
+    std::string texts;
+    for (const auto& [path, bytes] : reader_->desktop.files.All())
+      if (path.starts_with(folder + "/") && path != kNotes) texts += bytes;
+    return texts;
+  }
+
+  // Faults by name, several in one.
+  void Break(const std::string& fault) {
+    host::MemoryFiles& files = reader_->desktop.files;
+    if (fault == "lock") files.Lock(kNotes);
+    if (fault == "spoil") files.Spoil(kNotes);
+    if (fault == "refuse") files.Refuse(kNotes);
+    if (fault.starts_with("fill")) files.Fill("preferences");
+    if (fault == "fill most" || fault == "fill all") files.Fill("state");
+    if (fault == "fill all") files.Fill("runtime");
+  }
 
   static constexpr const char* kNotes = "preferences/QMR";
   std::optional<tests::Reader> reader_;
@@ -68,22 +88,74 @@ TEST_F(NotesTest, TheEndOfTheProgramSaves) {
   EXPECT_TRUE(screen->closed);
 }
 
-// None of it is reported, and none of it costs what the file holds.
-TEST_F(NotesTest, WhatCannotBeReadOrWrittenStays) {
-  reader_->desktop.files.AddFile(kNotes, "old");
-  reader_->desktop.files.Lock(kNotes);
-  ASSERT_TRUE(reader_->Click({"notes"}));
-  EXPECT_EQ(Field(), "");
-  Notes().CloseBox();
-  EXPECT_EQ(OnDisk(), "old") << "an untouched pad must not replace what it couldn't read";
-  reader_->desktop.files.Refuse(kNotes);
-  ASSERT_TRUE(reader_->Click({"notes"}));
-  Notes().Type("new");
-  Notes().CloseBox();
-  EXPECT_EQ(OnDisk(), "old");
-  reader_->desktop.no_preferences_folder = true;
-  ASSERT_TRUE(reader_->Click({"notes"}));
-  Notes().CloseBox();
+// What becomes of two texts, one on the disk and one typed, when something is amiss.
+// "-" stands for nothing: no file, nothing typed, nobody else's text.
+struct Mishap {
+  const char* story;
+  const char* on_disk;
+  const char* at_opening;  // a fault: see Break
+  const char* typed;
+  const char* by_another;  // written to the file meanwhile
+  const char* at_closing;  // a fault, or "kill": the pad never closes
+  const char* then_on_disk;
+  const char* beside;  // under other names in the folder
+  const char* told;    // part of what the desktop says
+  const char* next;    // what the pad shows next time, when all is well again
+};
+
+TEST_F(NotesTest, NothingThatWasTypedIsLostWithoutAWord) {
+  static constexpr Mishap kMishaps[] = {
+      {"all is well", "old", "-", "new", "-", "-", "new", "", "", "new"},
+      {"no file, nothing typed", "-", "-", "-", "-", "-", "", "", "", ""},
+      {"nothing typed, changed", "old", "-", "-", "other", "-", "other", "", "", "other"},
+      {"nothing typed, unreadable", "old", "lock", "-", "-", "-", "old", "", "", "old"},
+      {"unreadable", "old", "lock", "new", "-", "-", "old", "new", "couldn't be read", "old"},
+      {"a read error in the middle", "old", "spoil", "new", "-", "-", "old", "new", "couldn't be read",
+       "old"},
+      {"unreadable later", "old", "-", "new", "-", "lock", "old", "new", "couldn't be read", "old"},
+      {"unreadable and full", "old", "lock", "new", "-", "fill", "old", "", "can't be saved", "old"},
+      {"can't be made", "old", "-", "new", "-", "refuse", "old", "", "kept in \"state/", "new"},
+      {"no room", "old", "-", "new", "-", "fill", "old", "", "kept in \"state/", "new"},
+      {"no room there either", "old", "fill most", "new", "-", "-", "old", "", "kept in \"runtime/", "new"},
+      {"no room anywhere", "old", "fill all", "new", "-", "-", "old", "", "copied from here.\nnew", "old"},
+      {"changed", "old", "-", "new", "other", "-", "new", "other", "changed by another", "new"},
+      {"made by another", "-", "-", "new", "other", "-", "new", "other", "changed by another", "new"},
+      {"changed alike", "old", "-", "new", "new", "-", "new", "", "", "new"},
+      {"changed, no room", "old", "-", "new", "other", "fill", "other", "", "can't be saved", "new"},
+      {"killed", "old", "-", "new", "-", "kill", "old", "", "", "new"},
+      {"killed without a file", "-", "-", "new", "-", "kill", "", "", "", "new"},
+      {"killed after another's change", "old", "-", "new", "other", "kill", "other", "", "", "new"},
+      {"killed over unreadable notes", "old", "lock", "new", "-", "kill", "old", "", "", "old"},
+  };
+  for (const Mishap& row : kMishaps) {
+    SCOPED_TRACE(row.story);
+    reader_.reset();
+    Start();
+    host::MemoryFiles& files = reader_->desktop.files;
+    const auto put = [&files](const char* text) {
+      if (*text != '-') files.AddFile(kNotes, text);
+    };
+    put(row.on_disk);
+    Break(row.at_opening);
+    ASSERT_TRUE(reader_->Click({"notes"}));
+    if (*row.typed != '-') Notes().Type(row.typed);
+    Notes().window->Event_Keep();
+    put(row.by_another);
+    Break(row.at_closing);
+    if (row.at_closing != std::string("kill")) Notes().CloseBox();
+    EXPECT_EQ(OnDisk(), row.then_on_disk);
+    EXPECT_EQ(In("preferences"), row.beside);
+    std::string told;
+    for (const std::string& words : std::exchange(reader_->desktop.told, {})) told += words;
+    EXPECT_EQ(told.empty(), *row.told == 0) << told;
+    EXPECT_NE(told.find(row.told), std::string::npos) << told;
+    Start();
+    ASSERT_TRUE(reader_->Click({"notes"}));
+    EXPECT_EQ(Field(), row.next);
+    Notes().CloseBox();
+    EXPECT_EQ(OnDisk(), row.next);
+    EXPECT_EQ(In("state") + In("runtime"), "") << "no copy is left";
+  }
 }
 
 struct GlossaryWindowTest : testing::Test {

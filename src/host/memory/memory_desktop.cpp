@@ -15,6 +15,10 @@ std::shared_ptr<FolderItem> MemoryDesktop::PreferencesFolder() {
   return no_preferences_folder ? nullptr : files.Item("preferences");
 }
 
+std::vector<std::shared_ptr<FolderItem>> MemoryDesktop::RecoveryFolders() {
+  return {files.Item("state"), files.Item("runtime")};
+}
+
 bool MemoryDesktop::OpenDocument(const std::string& application, const std::string& path) {
   if (no_applications) return false;
   opened_documents.push_back(application + " " + path);

@@ -22,11 +22,15 @@ class MemoryDesktop final : public Desktop {
   void MsgBox(const std::string& text) override {
     if (!quit_code) messages.push_back(text);
   }
+  void Tell(const std::string& words, const std::string& rescued) override {
+    told.push_back(rescued.empty() ? words : words + "\n" + rescued);
+  }
   void Quit(std::int32_t code) override {
     if (!quit_code) quit_code = code;
   }
   std::shared_ptr<FolderItem> ApplicationFolder() override;
   std::shared_ptr<FolderItem> PreferencesFolder() override;
+  std::vector<std::shared_ptr<FolderItem>> RecoveryFolders() override;
   bool OpenDocument(const std::string& application, const std::string& path) override;
   FixedMetrics& Metrics() override { return metrics; }
   std::shared_ptr<Picture> NewPicture(std::int32_t width, std::int32_t height, std::int32_t depth) override;
@@ -39,11 +43,16 @@ class MemoryDesktop final : public Desktop {
   std::vector<std::string> messages;
   std::optional<std::int32_t> quit_code;
 
+  // The desktop's own words so far, each with the text that it rescued.
+  std::vector<std::string> told;
+
   // The folder that holds the bundle is the root of these files.
   MemoryFiles files;
 
   // The folder of preferences is "preferences" there.
   bool no_preferences_folder = false;
+
+  // Folders for copies of unsaved text are "state" and "runtime".
 
   // What was handed to which application ("QLD7 Data/outline.pdf"), in order.
   std::vector<std::string> opened_documents;

@@ -7,9 +7,9 @@ namespace {
 
 class MemoryStream final : public BinaryStream {
  public:
-  explicit MemoryStream(std::string bytes) : bytes_(std::move(bytes)) {}
+  MemoryStream(std::string bytes, std::uint64_t length) : bytes_(std::move(bytes)), length_(length) {}
 
-  std::uint64_t Length() const override { return bytes_.size(); }
+  std::uint64_t Length() const override { return length_; }
 
   std::string Read(std::uint64_t count) override {
     std::string part = bytes_.substr(at_, count);
@@ -21,8 +21,11 @@ class MemoryStream final : public BinaryStream {
 
  private:
   std::string bytes_;
+  std::uint64_t length_;
   std::size_t at_ = 0;
 };
+
+}  // namespace
 
 class MemoryOutput final : public TextOutputStream {
  public:
@@ -31,6 +34,8 @@ class MemoryOutput final : public TextOutputStream {
   void Write(const std::string& text) override { text_ += text; }
 
   bool Close() override {
+    const std::string folder = path_.substr(0, path_.rfind('/'));
+    if (files_.full_.contains(path_) || files_.full_.contains(folder)) return false;
     files_.AddFile(path_, text_);
     return true;
   }
@@ -40,8 +45,6 @@ class MemoryOutput final : public TextOutputStream {
   std::string path_;
   std::string text_;
 };
-
-}  // namespace
 
 class MemoryItem final : public FolderItem {
  public:
@@ -67,7 +70,14 @@ class MemoryItem final : public FolderItem {
     const auto file = files_.files_.find(path_);
     if (file == files_.files_.end() || files_.locked_.contains(path_)) return nullptr;
     files_.opened_.push_back(path_);
-    return std::make_unique<MemoryStream>(file->second);
+    const std::string& bytes = file->second;
+    const bool spoiled = files_.spoiled_.contains(path_);
+    return std::make_unique<MemoryStream>(spoiled ? bytes.substr(0, bytes.size() / 2) : bytes, bytes.size());
+  }
+
+  bool Remove() const override {
+    files_.Remove(path_);
+    return true;
   }
 
   std::unique_ptr<TextOutputStream> Create(Readers /*readers*/) const override {
@@ -79,6 +89,10 @@ class MemoryItem final : public FolderItem {
   MemoryFiles& files_;
   std::string path_;
 };
+
+void MemoryFiles::Mend() {
+  for (std::set<std::string>* const faults : {&locked_, &spoiled_, &refused_, &full_}) faults->clear();
+}
 
 std::string MemoryFiles::Bytes(const std::string& path) const {
   const auto file = files_.find(path);

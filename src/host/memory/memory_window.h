@@ -42,6 +42,7 @@ class MemoryScreen {
   bool minimised = false;    // by the user
   bool closed = false;       // the window has gone
   Reading reading;           // what the window says
+  std::string notice;        // the desktop's own word in it
 
   // Controls in the order they were made, the last on top, whoever their parent
   // is.
@@ -110,6 +111,7 @@ class MemoryWindow final : public WindowPeer {
     screen_->frame.top = top;
   }
   void SetReading(const Reading& reading) override { screen_->reading = reading; }
+  void SetNotice(const std::string& words) override { screen_->notice = words; }
   void Show() override {
     screen_->shown = true;
     screen_->minimised = false;

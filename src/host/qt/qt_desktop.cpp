@@ -3,7 +3,6 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QMessageBox>
-#include <QStandardPaths>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -20,6 +19,8 @@
 #include "host/qt/qt_documents.h"
 #include "host/qt/qt_files.h"
 #include "host/qt/qt_graphics.h"
+#include "host/qt/qt_instance.h"
+#include "host/qt/qt_places.h"
 #include "host/qt/qt_signals.h"
 #include "host/qt/qt_text.h"
 #include "host/qt/qt_view.h"
@@ -37,12 +38,13 @@ bool IsSet(const char* variable) {
   return value != nullptr && *value != '\0';
 }
 
-void ShowBox(const std::string& title, const QString& text) {
+void ShowBox(const std::string& title, const QString& text, const QString& details = {}) {
   QMessageBox box(QApplication::activeWindow());
   box.setWindowTitle(QString::fromStdString(title));
   box.setIcon(QMessageBox::Information);
   box.setTextFormat(Qt::PlainText);
   box.setText(text);
+  box.setDetailedText(details);
   box.setStandardButtons(QMessageBox::Ok);
   box.exec();
 }
@@ -83,6 +85,24 @@ class DisplayGuard {
   QtMessageHandler before_;
 };
 
+// The toolkit calls `exit` in the middle of an event when the X server has gone. While
+// this lives, that saves what the windows hold; nothing else is left to be done.
+class ExitGuard {
+ public:
+  ExitGuard() {
+    static const int registered = std::atexit([] {
+      if (alive_) SaveAllWindows();
+    });
+    alive_ = registered == 0;
+  }
+  ~ExitGuard() { alive_ = false; }
+  ExitGuard(const ExitGuard&) = delete;
+  ExitGuard& operator=(const ExitGuard&) = delete;
+
+ private:
+  static inline bool alive_ = false;
+};
+
 // The toolkit's application object goes last, the metrics hold its fonts.
 struct QtDesktop::Parts {
   Parts(int& argc, char** argv, Product given_product, Options given)
@@ -95,12 +115,15 @@ struct QtDesktop::Parts {
     QApplication::setApplicationName(QString::fromStdString(product.name));
     QApplication::setQuitOnLastWindowClosed(false);
     AnnounceControls();
+    // A session manager asks before it ends the session.
+    QObject::connect(&toolkit, &QGuiApplication::commitDataRequest, [] { SaveAllWindows(); });
   }
 
   void Quit(int code);
   void Fail(const std::string& what);
   void Say(const std::string& text) const;
   void TellFailure(const std::string& text);
+  void EndSession();
 
   Product product;
   Options options;
@@ -109,6 +132,8 @@ struct QtDesktop::Parts {
   QtMetrics metrics;
   QtView view;
   std::optional<int> quit_code;
+  std::optional<SessionSignals> session;  // from the first turn of the loop on
+  bool session_ends = false;
   bool has_commands = false;
   bool failed = false;
 };
@@ -116,6 +141,12 @@ struct QtDesktop::Parts {
 void QtDesktop::Parts::Quit(int code) {
   if (!quit_code) quit_code = code;
   QCoreApplication::exit(*quit_code);
+}
+
+// A box that stands then goes too, and none comes up any more.
+void QtDesktop::Parts::EndSession() {
+  session_ends = true;
+  Quit(0);
 }
 
 void QtDesktop::Parts::Say(const std::string& text) const {
@@ -156,10 +187,13 @@ QtDesktop::~QtDesktop() { QCoreApplication::sendPostedEvents(nullptr, QEvent::De
 int QtDesktop::Run(Application& application) {
   parts_->has_commands = application.GetMenuBar() != nullptr;
   if (parts_->quit_code) return *parts_->quit_code;
-  const SessionSignals session([this] { Quit(0); });
+  parts_->session.emplace([this] { parts_->EndSession(); });
+  const ExitGuard exits;
   const DesktopContrast contrast([this](bool high) { parts_->view.SetDesktopContrast(high); });
   return QApplication::exec();
 }
+
+void QtDesktop::Heed(Instance& instance) { instance.Listen(RaiseMainWindow); }
 
 bool QtDesktop::HasQuit() const { return parts_->quit_code.has_value(); }
 
@@ -168,6 +202,13 @@ bool QtDesktop::SaveScreen(Window& window, const std::filesystem::path& path) {
 }
 
 void QtDesktop::MsgBox(const std::string& text) { parts_->Say(text); }
+
+// The line in the terminal is all there is for those who can't wait for a box.
+void QtDesktop::Tell(const std::string& words, const std::string& rescued) {
+  std::cerr << words << (rescued.empty() ? "" : "\n") << rescued << std::endl;
+  if (parts_->options.messages == Messages::kBox && !parts_->session_ends)
+    ShowBox(parts_->product.name, QString::fromStdString(words), QString::fromStdString(rescued));
+}
 
 void QtDesktop::Quit(std::int32_t code) { parts_->Quit(code); }
 
@@ -178,8 +219,17 @@ std::shared_ptr<FolderItem> QtDesktop::ApplicationFolder() {
 }
 
 std::shared_ptr<FolderItem> QtDesktop::PreferencesFolder() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-  return folder.isEmpty() ? nullptr : DiskItem(folder.toStdString());
+  const std::filesystem::path folder = ConfigFolder();
+  return folder.empty() ? nullptr : DiskItem(folder);
+}
+
+// What the user types outlives the session in the first; the second lies in memory,
+// where there is room when disks are full.
+std::vector<std::shared_ptr<FolderItem>> QtDesktop::RecoveryFolders() {
+  std::vector<std::shared_ptr<FolderItem>> folders;
+  for (const std::filesystem::path& folder : {StateFolder(), RuntimeFolder()})
+    if (!folder.empty()) folders.push_back(DiskItem(folder));
+  return folders;
 }
 
 bool QtDesktop::OpenDocument(const std::string& application, const std::string& path) {

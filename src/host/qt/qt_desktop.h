@@ -13,6 +13,7 @@
 namespace quill::host {
 
 class Application;
+class Instance;
 class Window;
 
 // Whether there is a session to show windows in.
@@ -55,8 +56,13 @@ class QtDesktop final : public Desktop {
   // Ctrl+Q, stands in the application's menu bar; without one there is none.
   //
   // An exception that an event handler lets out is reported, and the program
-  // ends with status 1.
+  // ends with status 1. From here on the signals that end a session end the loop; they
+  // never cut the rest short.
   int Run(Application& application);
+
+  // From now on the main window comes to the front when a later reader asks
+  // `instance` for it.
+  void Heed(Instance& instance);
 
   // Whether the program has asked for its end.
   bool HasQuit() const;
@@ -66,9 +72,11 @@ class QtDesktop final : public Desktop {
   bool SaveScreen(Window& window, const std::filesystem::path& path);
 
   void MsgBox(const std::string& text) override;
+  void Tell(const std::string& words, const std::string& rescued) override;
   void Quit(std::int32_t code) override;
   std::shared_ptr<FolderItem> ApplicationFolder() override;
   std::shared_ptr<FolderItem> PreferencesFolder() override;
+  std::vector<std::shared_ptr<FolderItem>> RecoveryFolders() override;
   bool OpenDocument(const std::string& application, const std::string& path) override;
   FontMetrics& Metrics() override;
   std::shared_ptr<Picture> NewPicture(std::int32_t width, std::int32_t height, std::int32_t depth) override;

@@ -2,47 +2,16 @@
 
 #include <QEvent>
 #include <QKeyEvent>
-#include <QStringDecoder>
 #include <QTextDocument>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
-#include "base/text_converter.h"
 #include "host/qt/qt_peer.h"
 #include "host/qt/qt_values.h"
 
 namespace quill::host {
 namespace {
-
-constexpr char16_t kControlPictures = 0x2400;  // a visible sign for each control character
-
-bool IsShownAsItIs(QChar c) {
-  return c >= QChar(u' ') || c == QChar(u'\t') || c == QChar(u'\n') || c == QChar(u'\r');
-}
-
-QString FromMacRoman(const std::string& bytes) {
-  QString text = QString::fromStdU16String(base::MacRomanToUtf16(bytes));
-  for (QChar& c : text) {
-    if (!IsShownAsItIs(c)) c = QChar(static_cast<char16_t>(kControlPictures + c.unicode()));
-  }
-  return text;
-}
-
-QString Decoded(const std::string& bytes) {
-  QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-  QString text = decoder(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
-  return decoder.hasError() ? FromMacRoman(bytes) : text;
-}
-
-// Whether all lines of a text end as a DOS text's do.
-bool HasDosLines(const std::string& text) {
-  const std::size_t first = text.find('\n');
-  if (first == std::string::npos) return false;
-  for (std::size_t at = first; at != std::string::npos; at = text.find('\n', at + 1)) {
-    if (at == 0 || text[at - 1] != '\r') return false;
-  }
-  return true;
-}
 
 class QtEditField final : public QtPeer<EditFieldPeer, EditWidget> {
  public:
@@ -102,23 +71,25 @@ bool EditWidget::eventFilter(QObject* watched, QEvent* event) {
 
 void EditWidget::SetBytes(const std::string& bytes) {
   given_ = bytes;
-  setPlainText(Decoded(bytes));
+  edited_ = EditedText(bytes);
+  setPlainText(QString::fromStdU16String(edited_.Shown()));
   document()->setModified(false);
 }
 
 // The toolkit's plain text would turn no-break spaces into others.
 std::string EditWidget::Bytes() const {
   if (!document()->isModified()) return given_;
-  QString text = document()->toRawText();
-  const QString line_end = HasDosLines(given_) ? QStringLiteral("\r\n") : QStringLiteral("\n");
-  text.replace(QChar(QChar::ParagraphSeparator), line_end);
-  text.replace(QChar(QChar::LineSeparator), line_end);
-  return text.toStdString();
+  const QString text = document()->toRawText();
+  return edited_.Bytes(
+      {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
 }
 
 std::unique_ptr<EditFieldPeer> NewEditPeer(const TextStyle& style, base::Color back_color, QtMetrics& metrics,
-                                           const QtLook& look, QWidget& parent) {
-  return std::make_unique<QtEditField>(new EditWidget(style, back_color, metrics, look, &parent));
+                                           const QtLook& look, QWidget& parent,
+                                           std::function<void()> changed) {
+  auto* const widget = new EditWidget(style, back_color, metrics, look, &parent);
+  QObject::connect(widget, &QPlainTextEdit::textChanged, widget, std::move(changed));
+  return std::make_unique<QtEditField>(widget);
 }
 
 }  // namespace quill::host

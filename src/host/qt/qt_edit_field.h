@@ -3,9 +3,11 @@
 
 #include <QMargins>
 #include <QPlainTextEdit>
+#include <functional>
 #include <memory>
 #include <string>
 
+#include "host/edited_text.h"
 #include "host/peers.h"
 #include "host/qt/qt_scaled.h"
 #include "host/qt/qt_text.h"
@@ -24,8 +26,7 @@ class EditWidget final : public QPlainTextEdit, public ScaledWidget {
   // The letters take the window's scale; the field keeps its place.
   void Rescale() override;
 
-  // UTF-8. Bytes that aren't come from a file of before there was any: they show
-  // as the Mac Roman that they then were.
+  // UTF-8; what isn't comes through unharmed.
   void SetBytes(const std::string& bytes);
   std::string Bytes() const;
 
@@ -36,10 +37,13 @@ class EditWidget final : public QPlainTextEdit, public ScaledWidget {
  private:
   QFont font_;  // at the scale 1
   std::string given_;
+  EditedText edited_ = EditedText("");  // of the bytes given
   QMargins margins_;
 };
 
+// Calls `changed` at every change of the text.
 std::unique_ptr<EditFieldPeer> NewEditPeer(const TextStyle& style, base::Color back_color, QtMetrics& metrics,
-                                           const QtLook& look, QWidget& parent);
+                                           const QtLook& look, QWidget& parent,
+                                           std::function<void()> changed);
 
 }  // namespace quill::host

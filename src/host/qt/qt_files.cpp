@@ -1,10 +1,12 @@
 #include "host/qt/qt_files.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QSaveFile>
+#include <unistd.h>
+
+#include <cerrno>
 #include <fstream>
 #include <utility>
+
+#include "host/qt/qt_output.h"
 
 namespace quill::host {
 namespace {
@@ -27,31 +29,6 @@ class DiskStream final : public BinaryStream {
  private:
   std::ifstream file_;
   std::uint64_t length_;
-};
-
-// Writes beside the old file, and puts the new one in its place when all of it
-// is on the disk.
-class DiskOutput final : public TextOutputStream {
- public:
-  explicit DiskOutput(const std::filesystem::path& path) : file_(QString::fromStdString(path.string())) {}
-
-  bool Open(bool for_owner_alone) {
-    QDir().mkpath(QFileInfo(file_.fileName()).path());
-    if (!file_.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return false;
-    return !for_owner_alone || file_.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-  }
-
-  // A write that comes short, as on a full disk, is no failure to the toolkit;
-  // out of its buffer it would even come unseen.
-  void Write(const std::string& text) override {
-    const auto size = static_cast<qint64>(text.size());
-    if (file_.write(text.data(), size) != size) file_.cancelWriting();
-  }
-
-  bool Close() override { return file_.commit(); }
-
- private:
-  QSaveFile file_;  // remembers failures until it is asked to commit
 };
 
 class DiskFolderItem final : public FolderItem {
@@ -82,10 +59,14 @@ class DiskFolderItem final : public FolderItem {
     return std::make_unique<DiskStream>(std::move(file), length);
   }
 
+  bool Remove() const override {
+    SweepDrafts(path_);
+    return unlink(path_.c_str()) == 0 || errno == ENOENT || errno == ENOTDIR;
+  }
+
   std::unique_ptr<TextOutputStream> Create(Readers readers) const override {
-    auto output = std::make_unique<DiskOutput>(path_);
-    if (!output->Open(readers == Readers::kOwner)) return nullptr;
-    return output;
+    return DiskOutput::Make(
+        path_, readers == Readers::kOwner ? DiskOutput::Rights::kOwnerAlone : DiskOutput::Rights::kAsBefore);
   }
 
  private:

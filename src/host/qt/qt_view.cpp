@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/qt/qt_places.h"
+
 namespace quill::host {
 namespace {
 
@@ -71,13 +73,8 @@ int ZoomStepFrom(int percent, bool larger) {
 }
 
 std::filesystem::path ViewFile() {
-  QString folder = QString::fromLocal8Bit(qgetenv("XDG_STATE_HOME"));
-  if (!QDir::isAbsolutePath(folder)) {
-    const QString home = QString::fromLocal8Bit(qgetenv("HOME"));
-    if (!QDir::isAbsolutePath(home)) return {};
-    folder = home + QLatin1String("/.local/state");
-  }
-  return (folder + QLatin1String("/quillmere/view.ini")).toStdString();
+  const std::filesystem::path folder = StateFolder();
+  return folder.empty() ? folder : folder / "view.ini";
 }
 
 }  // namespace quill::host

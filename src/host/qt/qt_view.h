@@ -66,9 +66,7 @@ class QtView {
 // the ends.
 int ZoomStepFrom(int percent, bool larger);
 
-// The file for that state in the user's state folder, as freedesktop.org's base
-// directories (XDG_STATE_HOME) have it: a relative path in the environment doesn't
-// count. Empty if there is no such folder.
+// The file for that state in the user's state folder; empty if there is no such folder.
 std::filesystem::path ViewFile();
 
 }  // namespace quill::host

@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QPixmap>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <utility>
 
@@ -19,7 +21,9 @@ namespace quill::host {
 namespace {
 
 constexpr auto kDialog = WindowStyle::Frame::kDialog;
-constexpr int kSmallest = 64;  // side of a window that can be resized
+constexpr int kNoticeMargin = 6;
+constexpr auto kRest = std::chrono::seconds(1);  // from the first typing to the copy of it
+constexpr int kSmallest = 64;                    // side of a window that can be resized
 
 // What a window manager puts around a window, as long as it isn't known.
 constexpr QMargins kUsualFrame(4, 32, 4, 4);
@@ -67,6 +71,19 @@ WindowWidget* MainWindow() {
   return nullptr;
 }
 
+// What it says can be copied: it may be the name of a file.
+QLabel* NewNotice(QWidget& window) {
+  auto* const notice = new QLabel(&window);
+  notice->setTextFormat(Qt::PlainText);
+  notice->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  notice->setWordWrap(true);
+  notice->setMargin(kNoticeMargin);
+  notice->setAutoFillBackground(true);
+  notice->setBackgroundRole(QPalette::ToolTipBase);
+  notice->setForegroundRole(QPalette::ToolTipText);
+  return notice;
+}
+
 // A dialog stays above its owner, which doesn't own it in memory.
 void KeepAbove(QWidget& dialog, const QWidget& owner) {
   dialog.winId();  // makes its window
@@ -95,6 +112,9 @@ WindowWidget::WindowWidget(const WindowStyle& style, Window& window, QtView& vie
     move(kept->topLeft());
     if (style.resizeable) resize(kept->size());
   }
+  keep_.setSingleShot(true);
+  keep_.setInterval(kRest);
+  connect(&keep_, &QTimer::timeout, this, &WindowWidget::KeepTyped);
   view_.AddListener(*this);
   qApp->installEventFilter(this);
 }
@@ -156,6 +176,10 @@ void WindowWidget::PlacePane() {
     place.setSize(QSizeF(style_.width * look_.scale, style_.height * look_.scale).toSize());
     place.moveCenter(rect().center());
   }
+  if (notice_ != nullptr && !notice_->text().isEmpty()) {
+    notice_->setGeometry(0, 0, width(), notice_->heightForWidth(width()));
+    place.setTop(notice_->height());
+  }
   pane_->setGeometry(place);
 }
 
@@ -204,6 +228,31 @@ void WindowWidget::SetReading(QtReading reading) {
   QAccessible::updateAccessibility(&renamed);
 }
 
+void WindowWidget::SetNotice(const std::string& words) {
+  const QString text = QString::fromStdString(words);
+  if (notice_ == nullptr && text.isEmpty()) return;
+  if (notice_ == nullptr) notice_ = NewNotice(*this);
+  notice_->setText(text);
+  notice_->setVisible(!text.isEmpty());
+  PlacePane();
+  if (text.isEmpty() || !QAccessible::isActive()) return;
+  QAccessibleEvent alert(notice_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
+}
+
+void WindowWidget::NoteTyping() {
+  if (!keep_.isActive()) keep_.start();
+}
+
+void WindowWidget::KeepTyped() {
+  keep_.stop();
+  if (window_ != nullptr) window_->Event_Keep();
+}
+
+void WindowWidget::SaveNow() {
+  if (window_ != nullptr && window_->IsOpen()) window_->Event_Save();
+}
+
 const AccessibleReading* WindowWidget::Accessible() {
   if (!accessible_ && !reading_.IsEmpty()) accessible_ = std::make_unique<AccessibleReading>(*this, reading_);
   return accessible_.get();
@@ -248,6 +297,7 @@ void WindowWidget::showEvent(QShowEvent* /*event*/) {
 
 bool WindowWidget::event(QEvent* event) {
   if (event->type() == QEvent::Move || event->type() == QEvent::Resize) KeepPlace();
+  if (event->type() == QEvent::WindowDeactivate && keep_.isActive()) KeepTyped();
   if (event->type() == QEvent::WindowStateChange) {
     QMetaObject::invokeMethod(this, &WindowWidget::Relayout, Qt::QueuedConnection);
   }
@@ -291,7 +341,8 @@ std::unique_ptr<CheckBoxPeer> QtWindow::NewCheckBox(CheckBox& box, const std::st
 
 std::unique_ptr<EditFieldPeer> QtWindow::NewEditField(const TextStyle& style, base::Color back_color,
                                                       ControlPeer* parent) {
-  return NewEditPeer(style, back_color, metrics_, widget_->Look(), ParentWidget(parent));
+  return NewEditPeer(style, back_color, metrics_, widget_->Look(), ParentWidget(parent),
+                     [widget = widget_] { widget->NoteTyping(); });
 }
 
 void QtWindow::SetReading(const Reading& reading) {
@@ -303,6 +354,16 @@ void QtWindow::SetReading(const Reading& reading) {
 
 bool QtWindow::Save(const std::filesystem::path& path) {
   return widget_->grab().save(QString::fromStdString(path.string()), "PNG");
+}
+
+void RaiseMainWindow() {
+  if (auto* const main = MainWindow()) main->BringUp();
+}
+
+void SaveAllWindows() {
+  for (QWidget* const widget : QApplication::topLevelWidgets()) {
+    if (auto* const window = dynamic_cast<WindowWidget*>(widget)) window->SaveNow();
+  }
 }
 
 }  // namespace quill::host

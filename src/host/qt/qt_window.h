@@ -1,6 +1,7 @@
 // A window on the screen, and the making of its controls.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <filesystem>
 #include <functional>
@@ -17,6 +18,8 @@
 #include "host/qt/qt_reading.h"
 #include "host/qt/qt_text.h"
 #include "host/qt/qt_view.h"
+
+class QLabel;
 
 namespace quill::host {
 
@@ -45,6 +48,15 @@ class WindowWidget final : public QWidget, private QtView::Listener {
 
   // The tree of what is on show; null for a window that has said nothing.
   const AccessibleReading* Accessible();
+
+  // Shows a word of the desktop's own above the pane; empty for none.
+  void SetNotice(const std::string& words);
+
+  // Something was typed: a copy of it will be asked for.
+  void NoteTyping();
+
+  // Has what the window holds saved.
+  void SaveNow();
 
   // Brings the window to the front. The glossary leaves the focus where it is.
   void BringUp();
@@ -75,6 +87,7 @@ class WindowWidget final : public QWidget, private QtView::Listener {
   void PlacePane();
   void KeepOnScreen();
   void KeepPlace();
+  void KeepTyped();
   void FollowScreen();
 
   void Carry(Command command);
@@ -90,7 +103,9 @@ class WindowWidget final : public QWidget, private QtView::Listener {
   QtView& view_;
   std::function<void()> quit_command_;
   QtLook look_;
-  QWidget* pane_;  // owned by this widget
+  QWidget* pane_;             // owned by this widget, as the next
+  QLabel* notice_ = nullptr;  // null before the first
+  QTimer keep_;               // runs while there is something typed to be kept
   FocusWay focus_;
   QtReading reading_;
   std::unique_ptr<AccessibleReading> accessible_;
@@ -113,6 +128,7 @@ class QtWindow final : public WindowPeer {
   base::Rect Frame() const override { return widget_->Frame(); }
   void MoveTo(std::int32_t left, std::int32_t top) override { widget_->MoveTo(left, top); }
   void SetReading(const Reading& reading) override;
+  void SetNotice(const std::string& words) override { widget_->SetNotice(words); }
   void Show() override { widget_->BringUp(); }
   void Hide() override { widget_->hide(); }
 
@@ -127,5 +143,11 @@ class QtWindow final : public WindowPeer {
   QtMetrics& metrics_;
   std::map<const Canvas*, CanvasWidget*> canvases_;  // made so far
 };
+
+// Brings the main window to the front, if there is one.
+void RaiseMainWindow();
+
+// Has what the windows hold saved, each as it does when the user asks for it.
+void SaveAllWindows();
 
 }  // namespace quill::host
