@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "base/exceptions.h"
 #include "base/text.h"
@@ -50,27 +51,31 @@ bool HasAttribute(const zkXMLElement& element, std::string_view attribute, std::
   return false;
 }
 
-// Moves the elements that would die with `list`, and have content to take along,
-// to `dying`.
-void TakeDying(Content& list, Content& dying) {
-  for (std::shared_ptr<zkXMLObject>& object : list) {
-    if (object.use_count() != 1) continue;
-    const zkXMLElement* const element = object->asElement();
-    if (element != nullptr && element->ContentCount() > 0) dying.push_back(std::move(object));
-  }
-  list.clear();
-}
-
 }  // namespace
 
-// A default destructor would call itself once for each level of the tree.
+// A default destructor would call itself once for each level of the tree. This one goes
+// down the tree in a loop, and needs no memory for its way back: an element whose own
+// content is being released holds, in its place, what is still to be released of the
+// list that it was taken from, and behind that the element above. There is room for that
+// one more, since the element itself has just been taken out.
 zkXMLElement::~zkXMLElement() {
-  Content dying;
-  TakeDying(content, dying);
-  while (!dying.empty()) {
-    const std::shared_ptr<zkXMLObject> object = std::move(dying.back());
-    dying.pop_back();
-    TakeDying(object->asElement()->content, dying);
+  Content at = std::move(content);
+  std::shared_ptr<zkXMLObject> above;
+  for (;;) {
+    if (at.empty()) {
+      if (!above) return;
+      at = std::move(above->asElement()->content);
+      above = std::move(at.back());
+      at.pop_back();
+      continue;
+    }
+    std::shared_ptr<zkXMLObject> object = std::move(at.back());
+    at.pop_back();
+    zkXMLElement* const element = object.use_count() == 1 ? object->asElement() : nullptr;
+    if (element == nullptr || element->content.empty()) continue;
+    at.swap(element->content);
+    element->content.push_back(std::exchange(above, nullptr));
+    above = std::move(object);
   }
 }
 

@@ -22,6 +22,10 @@ constexpr double kLabelStep = 0.75;  // from a base line down to the offset labe
 // then filled up with blanks. No window shows the end of that many.
 constexpr double kMostPadding = 4096;
 
+// Nor of a link's text as long as this, in bytes; whole fields beyond it only count.
+// Links may well overlap, each as long as the page.
+constexpr std::size_t kMostText = 65'536;
+
 // The links of a page by the word they start at; of two that start at the same
 // word the earlier in the list counts.
 class LinkIndex {
@@ -197,12 +201,14 @@ void Flow::StartLink(std::string_view word, std::size_t field) {
 std::string Flow::TakeRun(std::string_view word, std::size_t field, double length) {
   std::string RunText(word);
   RunFields = 1;
+  std::size_t size = word.size();
   std::size_t RunField = field + 1;
-  for (; static_cast<double>(RunText.size()) < length && RunField < fields_.size(); ++RunField) {
-    RunText.append(" ").append(fields_[RunField]);
+  for (; static_cast<double>(size) < length && RunField < fields_.size(); ++RunField) {
+    if (size < kMostText) RunText.append(" ").append(fields_[RunField]);
+    size += 1 + fields_[RunField].size();
     ++RunFields;
   }
-  const double missing = std::ceil(length - static_cast<double>(RunText.size()));
+  const double missing = std::ceil(length - static_cast<double>(size));
   if (missing > 0) {
     RunText.append(static_cast<std::size_t>(std::min(missing, kMostPadding)), ' ');
     RunFields = base::AddSaturating(RunFields, base::ToInt32(missing));
