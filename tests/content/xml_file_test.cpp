@@ -2,10 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
 #include "base/exceptions.h"
 #include "base/numbers.h"
 #include "host/memory/memory_desktop.h"
@@ -222,17 +218,6 @@ TEST_F(XmlFileTest, SavesNothingThatItCantOrThatBelongsElsewhere) {
   file_.SetFilename("b.xml");
   EXPECT_FALSE(file_.Init() || file_.Save()) << "the tree of one file went into another";
   EXPECT_EQ(tests::TakeMessages(desktop_).back(), "Unable to parse b.xml");
-}
-
-TEST_F(XmlFileTest, OurOwnFilesComeBackAsTheyWere) {
-  for (const auto& entry : std::filesystem::directory_iterator(QUILL_CONTENT_DIR)) {
-    if (entry.path().extension() != ".xml") continue;
-    std::ostringstream bytes;
-    bytes << std::ifstream(entry.path(), std::ios::binary).rdbuf();
-    Open(bytes.str());
-    const std::string loaded = DumpOf(file_);
-    EXPECT_EQ(Reloaded(), loaded) << entry.path();
-  }
 }
 
 }  // namespace

@@ -6,10 +6,8 @@
 #include <sstream>
 
 #include "base/exceptions.h"
-#include "base/text.h"
 #include "host/memory/memory_desktop.h"
 #include "markup/container.h"
-#include "markup/end_tag_search.h"
 #include "markup/exceptions.h"
 #include "support/messages.h"
 #include "support/texts.h"
@@ -124,28 +122,6 @@ TEST_F(ParserTest, HostileTextsAreQuick) {
   EXPECT_EQ(Read(swallowed + "</" + Repeated("long", 200000) + ">", true), kRefused);
   EXPECT_EQ(Read("<![" + Repeated(">", 300000), false), kRefused);
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(30));
-}
-
-TEST(EndTagSearch, AgreesWithPlainSearches) {
-  const std::vector<std::string> of_names = {"</", "<", "/", "a", "A", "b"};
-  const std::vector<std::string> of_texts = {"</", "</", "<", "/", "a", "A", "b", ">", " "};
-  std::mt19937 random(11);
-  for (int round = 0; round < 20000; ++round) {
-    const std::string text = tests::RandomText(random, of_texts, 30);
-    EndTagSearch search;
-    EndTagIndex index(text);
-    bool all_follow = true;
-    std::vector<std::string> names(1 + random() % 2);
-    for (std::string& name : names) {
-      name = tests::RandomText(random, of_names, 1 + random() % 3) + (random() % 3 == 0 ? ">" : "");
-      const std::size_t from = random() % 20;
-      const bool follows = base::InStr(from + 1, text, "</" + name) > 0;
-      ASSERT_EQ(index.Follows(name, from), follows) << name << " from " << from << " in " << text;
-      search.Require(name, from);
-      all_follow = all_follow && follows;
-    }
-    ASSERT_EQ(search.AllFollow(text), all_follow) << text << ", first name " << names[0];
-  }
 }
 
 using ContainerTest = MarkupTest;

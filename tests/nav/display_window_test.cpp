@@ -225,20 +225,5 @@ TEST(HistoryTest, RowOffersTheFirstPageAndTheLastTwoBeforeTheOneOnShow) {
   EXPECT_EQ(Trail(22).Row(), (Row{{0, 0, ""}, {18, 19, "...> "}, {19, 20, "> "}})) << "beyond the pool";
 }
 
-TEST(HistoryTest, CutsBackToTheLastStepOnAPage) {
-  using Pages = std::vector<std::string>;
-  const std::tuple<Pages, std::string, Pages> rows[] = {
-      {{"1", "4", "7"}, "1", {}}, {{"1", "4", "1", "7"}, "1", {"1", "4"}},
-      {{"1", "4"}, "4", {"1"}},   {{"1", "4"}, "04", {}},
-      {Pages{}, "1", {}},
-  };
-  for (const auto& [trail, page, left] : rows) {
-    History history;
-    for (const std::string& step : trail) history.Append(step);
-    history.ResetHistory(page);
-    EXPECT_EQ(history.Pages(), left);
-  }
-}
-
 }  // namespace
 }  // namespace quill::nav

@@ -13,18 +13,19 @@
 
 namespace quill::tests {
 
+inline std::string DumpPage(const content::Page& page) {
+  std::string dump = page.GetPageID() + " " + page.GetTitle();
+  for (const std::string& text : page.Texts()) dump += " " + Quoted(text);
+  for (const auto& link : LinksOf(page)) {
+    dump += " " + base::Str(link->GetColumn()) + ":" + link->GetOffset() + "+" + link->GetLength() + ">" +
+            link->GetLinkToPage() + ":" + base::Str(link->GetType()) + link->GetFilename();
+  }
+  return dump + "\n";
+}
+
 inline std::string DumpDocument(const content::Document& document) {
   std::string dump;
-  for (std::int32_t i = 0; i <= document.GetUbound(); ++i) {
-    const content::Page& page = *document.GetPageByOffset(i);
-    dump += page.GetPageID() + " " + page.GetTitle();
-    for (const std::string& text : page.Texts()) dump += " " + Quoted(text);
-    for (const auto& link : LinksOf(page)) {
-      dump += " " + base::Str(link->GetColumn()) + ":" + link->GetOffset() + "+" + link->GetLength() + ">" +
-              link->GetLinkToPage() + ":" + base::Str(link->GetType()) + link->GetFilename();
-    }
-    dump += "\n";
-  }
+  for (std::int32_t i = 0; i <= document.GetUbound(); ++i) dump += DumpPage(*document.GetPageByOffset(i));
   return dump;
 }
 

@@ -1,10 +1,9 @@
-// Texts for tests: tables of them, long ones and random ones.
+// Texts for tests: tables of them, and long ones.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <initializer_list>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -28,14 +27,6 @@ void ExpectEach(const Function& function, std::initializer_list<TextCase> cases)
 inline std::string Repeated(const std::string& text, std::size_t count) {
   std::string result;
   for (std::size_t i = 0; i < count; ++i) result += text;
-  return result;
-}
-
-// So many of the pieces in random order, each as often as it comes.
-inline std::string RandomText(std::mt19937& random, const std::vector<std::string>& pieces,
-                              std::size_t count) {
-  std::string result;
-  for (std::size_t i = 0; i < count; ++i) result += pieces[random() % pieces.size()];
   return result;
 }
 

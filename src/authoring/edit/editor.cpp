@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <tuple>
 #include <utility>
 
 #include "authoring/alphabet.h"
@@ -41,6 +42,24 @@ std::int32_t ColumnOf(const zkXMLElement& link) {
 
 std::vector<PageWord> Words(const content::Page& page) {
   return WordsOf(page, host::Desktop::Current().Metrics());
+}
+
+bool IsSameLink(const std::shared_ptr<content::Link>& a, const std::shared_ptr<content::Link>& b) {
+  const auto parts = [](const content::Link& link) {
+    return std::tuple(link.GetOffset(), link.GetLength(), link.GetLinkToPage(), link.GetType(),
+                      link.GetColumn(), link.GetFilename());
+  };
+  return parts(*a) == parts(*b);
+}
+
+bool IsSamePage(const content::Page& a, const content::Page& b) {
+  const auto parts = [](const content::Page& page) {
+    return std::tuple(page.GetPageID(), page.GetTitle(), page.Texts());
+  };
+  const auto links_a = content::LinksOf(a);
+  const auto links_b = content::LinksOf(b);
+  return parts(a) == parts(b) &&
+         std::equal(links_a.begin(), links_a.end(), links_b.begin(), links_b.end(), IsSameLink);
 }
 
 // An anchor in the words of a complaint.
@@ -105,6 +124,7 @@ std::int32_t Editor::AddPage(const std::string& title, const content::TextList& 
 
 void Editor::UpdatePage(std::int32_t id, const std::optional<std::string>& title,
                         const content::TextList& texts) {
+  changed_.insert(id);
   const content::Page& page = PageOf(id);
   if (static_cast<std::int32_t>(texts.size()) > page.GetColumns())
     ComplainOf(id, "it has " + base::Str(page.GetColumns()) +
@@ -158,6 +178,7 @@ std::int32_t Editor::LinkNumber(std::int32_t id, const Anchor& anchor) const {
 // refused. The file's name goes in by a second step: a new text is taken for file
 // text, and a name with "&" would be decoded.
 void Editor::AddLink(std::int32_t id, const Anchor& anchor, const NewLink& link) {
+  changed_.insert(id);
   const std::vector<PageWord> words = Words(PageOf(id));
   const Anchor start = WithColumn(anchor);
   const PageWord& word = WordFor(id, words, start);
@@ -182,6 +203,7 @@ void Editor::AddLink(std::int32_t id, const Anchor& anchor, const NewLink& link)
 // A link keeps its column, which the store can't change. Words of its own are no
 // obstacle: it may be moved to where it starts already.
 void Editor::UpdateLink(std::int32_t id, const Anchor& anchor, const LinkChange& change) {
+  changed_.insert(id);
   const std::int32_t number = LinkNumber(id, anchor);
   zkXMLElement& link = *LinksOf(id)->GetElement("Link", number);
   std::string offset = TextOf(link, "Offset");
@@ -207,6 +229,7 @@ void Editor::UpdateLink(std::int32_t id, const Anchor& anchor, const LinkChange&
 // `zkXMLFileClass::DeleteLink` goes by the offset alone, and would take a link of
 // an earlier column that has the same.
 void Editor::DeleteLink(std::int32_t id, const Anchor& anchor) {
+  changed_.insert(id);
   const std::int32_t number = LinkNumber(id, anchor);
   zkXMLElement& link = *LinksOf(id)->GetElement("Link", number);
   while (link.ContentCount() > 0) link.RemoveContent(link.ContentCount());
@@ -217,7 +240,23 @@ std::string Editor::BumpVersion() {
   return file_.file->GetAppVersion();
 }
 
+// The loader gives a page or link that lacks an element the value of the one before it: a change there would
+// reach it too.
+void Editor::RequireOthersAsBefore() const {
+  const auto document = std::make_shared<content::Document>();
+  file_.file->GetDocument(document);
+  for (std::int32_t id = 0; id <= file_.document->GetUbound(); ++id) {
+    const auto page = document->GetPageByOffset(id);
+    const bool same = page && IsSamePage(*page, *file_.document->GetPageByOffset(id));
+    if (!same && !changed_.contains(id))
+      ComplainOf(id,
+                 "it would change too, for it lacks an element and takes it from what stands before; "
+                 "put that right first.");
+  }
+}
+
 void Editor::Save() {
+  RequireOthersAsBefore();
   if (!file_.file->Save())
     throw FileComplaint(path_.string() + ": it can't be written; the old file is what it was.");
 }

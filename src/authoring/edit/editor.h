@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -68,7 +69,8 @@ class Editor {
   // Raises the version by 0.1; returns the new one.
   std::string BumpVersion();
 
-  // Writes the file, all or nothing. Throws `FileComplaint` if that can't be done.
+  // Writes the file, all or nothing. Throws `FileComplaint` if that can't be done, `Complaint` if another
+  // page than those that were changed would change with them.
   void Save();
 
  private:
@@ -90,8 +92,11 @@ class Editor {
   // The same for the one that an anchor names, which must be there.
   std::int32_t LinkNumber(std::int32_t id, const Anchor& anchor) const;
 
+  void RequireOthersAsBefore() const;
+
   std::filesystem::path path_;
-  OpenedFile file_;
+  OpenedFile file_;                 // its document as it was opened
+  std::set<std::int32_t> changed_;  // ids of pages
 };
 
 }  // namespace quill::authoring

@@ -84,6 +84,18 @@ TEST(ManuscriptTest, StylesAndLinks) {
        {"[&amp; `*`](#x) 5 * 3 = 15 [sic] a_b__ <!-- x -->", "\"& * 5 * 3 = 15 [sic] a_b__\" 0+3:0#x"}});
 }
 
+TEST(ManuscriptTest, ListsTermsWhereTheIndexStands) {
+  tests::ExpectEach(
+      Read,
+      {{"# A {#a}\n<!-- Index: acts; Éclair;; Act two -->\n# I {#i}\n\nx\n\n{index:A-L}\n\n[y](#a)\n\n"
+        "---\n\n- {index:A-L}\n\n---\n\n{index:M-Z}\n\nz\n# B {#b}\n\n<!-- mine\nIndex: {2} *b*; V.O. -->\n",
+        "A #a | \"\"\n"
+        "I #i | \"x\\n{2}\\xCA*b*\\nAct\\xCAtwo\\ny\" 1+7:0#b 2+7:0#a 3+1:0#a"
+        " | \"\\tacts\\n\\t\\x83clair\" 0+4:0#a 1+6:0#a | \"V.O.\\nz\" 0+4:0#b\nB #b | \"\"\n",
+        "in the order of letters, in even shares, each as it is written"},
+       {"# A\n\n{index:A-Z}\n\n`{index:A-Z}`\n", "A | \"\\n{index:A-Z}\"\n", "no terms"}});
+}
+
 // Of each diagnostic the line and how its sentence begins.
 TEST(ManuscriptTest, SaysWhatIsWrongAndWhere) {
   const std::vector<tests::TextCase> cases = {
@@ -112,20 +124,18 @@ TEST(ManuscriptTest, SaysWhatIsWrongAndWhere) {
       {"# A\n\n<br>\na", "3: of HTML a page knows"},
       {"# A\n\n`\n`\na “b", "5: a page can't show the character \"“\" (U+201C); write \"\n"},
       {"# A\n\n½", "3: a page can't show the character \"½\" (U+00BD)\n", "the program lacks it"},
+      {"# A\n<!-- Index: b -->\n\n{index:A-Z}", "2: a page with terms for the index has a name"},
+      {"# A {#a}\n<!-- Index: b -->\n\n{index:C-Z}", "2: no page lists the term \"b\""},
+      {"# A {#a}\n<!-- Index: vo\nIndex: V.O. -->\n\n{index:A-Z}",
+       "3: the index has the term \"V.O.\" already"},
+      {"# A\n\n{index:F-A}", "3: the index, or a part of it, is {index:A-F}"},
+      {"# A\n\n{index:A-F} x", "3: the index, or a part of it, is {index:A-F}"},
       {"# A\n\n\x01\xFF", "3: a page can't show the character (U+0001)\n3: these bytes are no characters"},
   };
   for (const tests::TextCase& c : cases) {
     const std::string found = Dump(ReadManuscript(c.text).diagnostics);
     EXPECT_TRUE(found.starts_with(c.expected)) << tests::Quoted(c.text) << " " << c.story << "\n" << found;
   }
-}
-
-TEST(ManuscriptTest, TakesWhateverItIsGiven) {
-  std::mt19937 random(7);
-  const std::vector<std::string> pieces = {
-      "# ", "\n",     "\n\n",  "*",  "**",  "_", "[", "](",   ")",        "<u>",      "</u>", "{2}",
-      "`",  "<br>\n", "---\n", "- ", "1. ", "a", " ", "&#9;", "\xC3\xA9", "\xE2\x80", "<!--"};
-  for (int i = 0; i < 2000; ++i) ReadManuscript("# A\n" + tests::RandomText(random, pieces, 40));
 }
 
 }  // namespace

@@ -2,15 +2,11 @@
 
 #include <gmock/gmock.h>
 
-#include <random>
-
 #include "authoring/area.h"
 #include "authoring/manuscript/manuscript_reader.h"
-#include "authoring/page_words.h"
 #include "base/numbers.h"
 #include "content/xml_file.h"
 #include "host/memory/memory_desktop.h"
-#include "render/page_settings.h"
 #include "support/document_dump.h"
 #include "support/texts.h"
 
@@ -61,6 +57,8 @@ TEST(PressTest, NamesOffsetsByTheLayoutsCount) {
         "each column counts anew"},
        {"# A {#a}\n[b](#b) [f](glossary:first) [s](glossary:second)\n# B {#b}\n[a](#a) [d](doc:d.pdf)\n",
         "0 A \"b f s\" 1:0+1>1:0 1:2+1>0:1 1:4+1>1:1\n1 B \"a d\" 1:0+1>0:0 1:2+1>0:9d.pdf\n"},
+       {"# A {#a}\n<!-- Index: c d; e -->\n\n*b*\n\n{index:A-Z}\n\n[f](#a)\n",
+        "0 A \"b\\nc\\xCAd\\ne\\nf\" 1:0+1>0:3 1:3+3>0:0 1:8+1>0:0 1:11+1>0:0\n"},
        {"# A\n\n[Stage](mode:2) [Ann](bio:ann) *x*\n",
         "0 A \"Stage Ann x\" 1:0+5>2:2 1:6+3>101:2 1:10+1>0:3\n"}});
 }
@@ -77,25 +75,6 @@ TEST(PressTest, KeepsAwkwardTextToTheLetter) {
   EXPECT_EQ(tests::DumpDocument(*loaded.document),
             "0 T & <\"'\x8E \"a & b <c> \"d\" 'e' ]]> f\" \"caf\\x8E & \\tx\\ny <b>\" \"\\xCA ^ % & ;\"\n1 B "
             "\"\"\n");
-}
-
-TEST(PressTest, EveryLinkFindsItsWordsInTheLayout) {
-  std::mt19937 random(11);
-  const std::vector<std::string> pieces = {"end. ",    "a&#9;b ",       "\n\n- ", "\n\n3. ",
-                                           "\n\n",     "na\xC3\xAFve ", "*s* ",   "[a b](plain:) ",
-                                           "**c d** ", "\n\n<br>\n\n"};
-  for (int i = 0; i < 200; ++i) {
-    const std::string text = "# A\n\n" + tests::RandomText(random, pieces, 30) + "\n\n---\n\n" +
-                             tests::RandomText(random, pieces, 20) + "\n";
-    Loaded loaded(PressText(text));
-    const auto page = loaded.document->GetPage(0);
-    const auto links = LinksOf(*page);
-    const auto layout = LayOutPage(*page, render::PageSettings(app::kModes[1], page->GetColumns(), "0"),
-                                   loaded.desktop.Metrics());
-    ASSERT_EQ(layout.links.size(), links.size()) << text;
-    for (const render::PlacedLink& placed : layout.links)
-      EXPECT_EQ(std::to_string(placed.text.size()), links[placed.index]->GetLength()) << placed.text << text;
-  }
 }
 
 TEST(PressTest, SaysWhatCantBePressed) {

@@ -1,0 +1,53 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <random>
+#include <sstream>
+
+#include "fuzz/attack.h"
+#include "support/tree_dump.h"
+
+namespace quill::tests {
+namespace {
+
+// A seed with parts of others in place of its own, and bytes of any kind.
+std::string Mutated(const std::vector<std::string>& seeds, std::mt19937& random) {
+  const auto below = [&](std::size_t count) { return random() % count; };
+  std::string bytes = seeds[below(seeds.size())];
+  for (std::size_t changes = below(8); changes > 0; --changes) {
+    const std::string& other = seeds[below(seeds.size())];
+    const std::string part = other.substr(below(other.size() + 1), below(40));
+    const std::string any(below(3), static_cast<char>(below(256)));
+    bytes.replace(below(bytes.size() + 1), below(20), below(2) == 0 ? any : part);
+  }
+  return bytes;
+}
+
+// The number is told beforehand, so that it is there after a crash too.
+TEST(Attacks, FindNothing) {
+  const char* const given = std::getenv("QUILL_FUZZ_SEED");
+  const auto number = given != nullptr ? static_cast<unsigned>(std::stoul(given)) : std::random_device()();
+  for (const auto& [name, run] : kAttacks) {
+    std::cout << name << ": QUILL_FUZZ_SEED=" << number << std::endl;
+    std::mt19937 random(number);
+    std::vector<std::string> seeds;
+    for (const auto& file : std::filesystem::directory_iterator(std::string(QUILL_SEEDS).append(name)))
+      seeds.push_back((std::ostringstream() << std::ifstream(file.path()).rdbuf()).str());
+    std::sort(seeds.begin(), seeds.end());
+    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(700);
+    for (std::size_t i = 0; std::chrono::steady_clock::now() < end; ++i) {
+      const std::string input = i < seeds.size() ? seeds[i] : Mutated(seeds, random);
+      try {
+        run(input);
+      } catch (const std::exception& failure) {
+        FAIL() << name << " of " << Quoted(input) << ": " << failure.what();
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quill::tests
