@@ -1,7 +1,8 @@
 // A manuscript as it was read: pages, columns and the runs of words that lead
 // somewhere or are styled. Names of other pages are kept as names; the press finds
-// what they stand for. Plain values; `manuscript_reader.h` makes them, and whoever
-// called it owns them.
+// what they stand for. The lines of an index are among the words, as if its author had
+// written them. Plain values; `manuscript_reader.h` makes them, and whoever called it
+// owns them.
 //
 // Nothing here counts as the layout does: a run names its first word by its index,
 // and only the press asks the layout for that word's offset.

@@ -76,7 +76,15 @@ void ManuscriptBuilder::BeginParagraph() {
 void ManuscriptBuilder::EndParagraph() {
   CloseUnderline();
   const Paragraph paragraph = std::exchange(paragraph_, {});
-  if (HasPage()) TypesetParagraph(paragraph, CurrentColumn(), manuscript_.diagnostics);
+  if (!HasPage()) return;
+  if (IsIndexPlace(paragraph.letters)) return AddIndexPlace(paragraph);
+  TypesetParagraph(paragraph, CurrentColumn(), manuscript_.diagnostics);
+}
+
+void ManuscriptBuilder::AddIndexPlace(const Paragraph& paragraph) {
+  if (const auto initials = InitialsOf(paragraph.letters))
+    return index_.AddPlace(*initials, paragraph.indent, manuscript_);
+  Diagnose("the index, or a part of it, is {index:A-F} in a paragraph of its own, from letter to letter");
 }
 
 // Whether text has a page to stand on; says so if not.
@@ -88,11 +96,21 @@ bool ManuscriptBuilder::HasPage() {
 
 void ManuscriptBuilder::AddHtmlBlock(std::string_view html) {
   if (IsComment(html)) {
-    if (manuscript_.pages.empty()) ReadHead(html, line_, manuscript_);
+    if (manuscript_.pages.empty()) return ReadHead(html, line_, manuscript_);
+    AddTerms(html);
   } else if (const int count = CountBreaks(html); count == 0) {
     Diagnose("of HTML a page knows <u> inside a paragraph, and <br> with an empty line before and behind it");
   } else if (HasPage()) {
     for (int i = 0; i < count; ++i) TypesetParagraph({}, CurrentColumn(), manuscript_.diagnostics);
+  }
+}
+
+void ManuscriptBuilder::AddTerms(std::string_view comment) {
+  const std::string& page = manuscript_.pages.back().name;
+  for (Term& term : ReadTerms(comment, line_, manuscript_.diagnostics)) {
+    if (page.empty()) Diagnose("a page with terms for the index has a name, as in # Title {#name}");
+    term.page = page;
+    index_.AddTerm(std::move(term));
   }
 }
 
@@ -157,6 +175,7 @@ Manuscript ManuscriptBuilder::Finish() {
     line_ = 1;
     Diagnose("there is no page: a page begins with # and its title");
   }
+  index_.Fill(manuscript_);
   Diagnostics& diagnostics = manuscript_.diagnostics;
   std::stable_sort(diagnostics.begin(), diagnostics.end(),
                    [](const Diagnostic& a, const Diagnostic& b) { return a.line < b.line; });

@@ -15,6 +15,7 @@
 
 #include "authoring/manuscript/manuscript.h"
 #include "authoring/manuscript/paragraph.h"
+#include "authoring/manuscript/term_index.h"
 
 namespace quill::authoring {
 
@@ -56,18 +57,21 @@ class ManuscriptBuilder {
   void AddVerbatim(std::string_view text) { AddLetters(text, true); }
 
   // HTML between paragraphs, and inside one. Of it a page knows <br> and <u>;
-  // comments are the author's own, but for the head before the first page.
+  // comments are the author's own, but for the head before the first page and the
+  // terms of a page.
   void AddHtmlBlock(std::string_view html);
   void AddHtmlInline(std::string_view html);
 
   // Something is wrong on the line that was moved to last.
   void Diagnose(std::string sentence) { manuscript_.diagnostics.push_back({line_, std::move(sentence)}); }
 
-  // The manuscript, its diagnostics by line and each of them once.
+  // The manuscript, its index filled, its diagnostics by line and each of them once.
   Manuscript Finish();
 
  private:
   bool HasPage();
+  void AddTerms(std::string_view comment);
+  void AddIndexPlace(const Paragraph& paragraph);
   Column& CurrentColumn() { return manuscript_.pages.back().columns.back(); }
   void DiagnoseTitle(const Paragraph& title, const ManuscriptPage& page);
   void CloseUnderline();
@@ -75,6 +79,7 @@ class ManuscriptBuilder {
   void AddLetters(std::string_view text, bool verbatim);
 
   Manuscript manuscript_;
+  TermIndex index_;
   std::set<std::string> names_;  // of pages so far
   int line_ = 1;
   std::vector<std::optional<int>> lists_;  // that are open: the number of the next item

@@ -137,12 +137,35 @@ std::string SpellingOf(const Prefix& prefix) {
   return text;
 }
 
+constexpr std::string_view kIndexPlace = "{index:";
+
+// What stands in backticks is no spelling of ours.
+std::string PlainText(const std::vector<Letter>& letters) {
+  std::string text;
+  for (const Letter& letter : letters) text += letter.verbatim ? '`' : letter.code;
+  return text;
+}
+
+// The lines of a comment, without what encloses it.
+std::vector<std::string_view> RowsOf(std::string_view comment) {
+  comment = comment.substr(0, std::min(comment.find("-->"), comment.size()));
+  comment.remove_prefix(std::min(comment.size(), std::string_view("<!--").size()));
+  return base::Fields(comment, '\n');
+}
+
+void ReadTermRow(std::string_view row, int line, std::vector<Term>& terms, Diagnostics& diagnostics) {
+  constexpr std::string_view kKey = "Index:";
+  if (!row.starts_with(kKey)) return;
+  for (const std::string_view field : base::Fields(row.substr(kKey.size()), ';')) {
+    const auto text = Convert(base::Trim(field), line, diagnostics);
+    if (text && !text->empty()) terms.push_back({*text, line, ""});
+  }
+}
+
 }  // namespace
 
 void ReadHead(std::string_view comment, int line, Manuscript& manuscript) {
-  comment = comment.substr(0, std::min(comment.find("-->"), comment.size()));
-  comment.remove_prefix(std::min(comment.size(), std::string_view("<!--").size()));
-  for (const std::string_view row : base::Fields(comment, '\n')) {
+  for (const std::string_view row : RowsOf(comment)) {
     const std::size_t colon = row.find(':');
     if (colon != std::string_view::npos)
       ReadSetting(base::Trim(row.substr(0, colon)), base::Trim(row.substr(colon + 1)), line, manuscript);
@@ -195,6 +218,22 @@ std::optional<std::int32_t> StyleOf(bool italic, bool bold, bool underline) {
       return row.type;
   }
   return std::nullopt;
+}
+
+std::vector<Term> ReadTerms(std::string_view comment, int line, Diagnostics& diagnostics) {
+  std::vector<Term> terms;
+  for (const std::string_view row : RowsOf(comment)) ReadTermRow(base::Trim(row), line++, terms, diagnostics);
+  return terms;
+}
+
+bool IsIndexPlace(const std::vector<Letter>& letters) { return PlainText(letters).starts_with(kIndexPlace); }
+
+std::optional<Initials> InitialsOf(const std::vector<Letter>& letters) {
+  const std::string text(base::Trim(PlainText(letters).substr(kIndexPlace.size())));
+  if (text.size() != 4 || text[1] != '-' || text[3] != '}') return std::nullopt;
+  const Initials initials = {text[0], text[2]};
+  const bool ordered = 'A' <= initials.first && initials.first <= initials.last && initials.last <= 'Z';
+  return ordered ? std::optional(initials) : std::nullopt;
 }
 
 int CountBreaks(std::string_view html) {

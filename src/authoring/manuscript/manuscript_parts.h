@@ -1,5 +1,6 @@
 // The small spellings of a manuscript, each read by a function of its own: the
-// head, the name behind a title, the target of a link, a style, empty paragraphs.
+// head, the name behind a title, the target of a link, a style, empty paragraphs, the
+// terms of a page and the places where the index lists them.
 // None of them knows what came before; `ManuscriptBuilder` puts them together.
 #pragma once
 
@@ -11,6 +12,7 @@
 
 #include "authoring/manuscript/manuscript.h"
 #include "authoring/manuscript/paragraph.h"
+#include "authoring/manuscript/term_index.h"
 
 namespace quill::authoring {
 
@@ -38,5 +40,15 @@ std::optional<std::int32_t> StyleOf(bool italic, bool bold, bool underline);
 // How many empty paragraphs a block of HTML asks for, a <br> each; 0 if there is
 // anything else in it.
 int CountBreaks(std::string_view html);
+
+// The terms in a comment on a page, which begins at `line`: what stands behind "Index:",
+// parted by semicolons, on any of its lines. All else in a comment is the author's
+// own. Their pages are left empty. A term that can't be shown goes to `diagnostics`.
+std::vector<Term> ReadTerms(std::string_view comment, int line, Diagnostics& diagnostics);
+
+// Whether a paragraph is meant to be a place of the index, and for which initials: A to
+// F in {index:A-F}; none if that can't be read.
+bool IsIndexPlace(const std::vector<Letter>& letters);
+std::optional<Initials> InitialsOf(const std::vector<Letter>& letters);
 
 }  // namespace quill::authoring

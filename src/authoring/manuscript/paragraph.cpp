@@ -13,8 +13,7 @@ namespace quill::authoring {
 namespace {
 
 constexpr std::size_t kNoWord = static_cast<std::size_t>(-1);
-constexpr std::size_t kMostStopDigits = 2;               // the widest column ends before stop 24
-constexpr char kNoBreakBlank = static_cast<char>(0xCA);  // in Mac Roman
+constexpr std::size_t kMostStopDigits = 2;  // the widest column ends before stop 24
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 

@@ -13,6 +13,9 @@
 
 namespace quill::authoring {
 
+// In Mac Roman. To the layout it is a letter like others.
+inline constexpr char kNoBreakBlank = static_cast<char>(0xCA);
+
 // What lies on a letter. Neighbours with the same mark are one run.
 struct Mark {
   std::int32_t style = 0;  // link type of the style, 3 to 8; 0 for plain letters
