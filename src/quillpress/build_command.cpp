@@ -11,6 +11,7 @@
 #include "authoring/manuscript/manuscript_reader.h"
 #include "authoring/press/press.h"
 #include "host/qt/qt_files.h"
+#include "quillpress/output_file.h"
 
 namespace quill::quillpress {
 namespace {
@@ -55,20 +56,6 @@ std::optional<std::string> Typeset(const fs::path& path, const std::string& text
   const auto lives = ReadNeighbour(path, "bio");
   return authoring::Press(manuscript, {glossary ? &*glossary : nullptr, lives ? &*lives : nullptr},
                           diagnostics);
-}
-
-// By whatever paths and links the two lead there; the manuscript would be lost.
-bool IsSameFile(const fs::path& a, const fs::path& b) {
-  std::error_code error;
-  return fs::equivalent(a, b, error);
-}
-
-// A new file is put in the old one's place once it is whole.
-bool WriteFile(const fs::path& path, const std::string& bytes) {
-  const auto file = host::DiskItem(path)->CreateSharedFile();
-  if (!file) return false;
-  file->Write(bytes);
-  return file->Close();
 }
 
 }  // namespace

@@ -42,6 +42,8 @@ void AddCheckCommand(CLI::App& app, Action& action);
 void AddShowCommand(CLI::App& app, Action& action);
 void AddPageCommands(CLI::App& app, Action& action);
 void AddLinkCommands(CLI::App& app, Action& action);
+void AddIndexCommand(CLI::App& app, Action& action);
+void AddSearchCommand(CLI::App& app, Action& action);
 void AddSnapshotCommand(CLI::App& app, Action& action);
 
 }  // namespace quill::quillpress

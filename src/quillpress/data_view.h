@@ -18,6 +18,10 @@ bool IsInBundle(const std::filesystem::path& data);
 // Throws `authoring::FileComplaint` unless `path` is a folder.
 void RequireFolder(const std::filesystem::path& path);
 
+// Throws what `authoring::RequireFile` does unless all content files of the current
+// desktop's bundle can be opened.
+void RequireContent();
+
 // The folder that seems to hold the bundle. Inside it "Quillmere.app", "Contents"
 // and "Data" lead to `data`, and "Data" beside the bundle to `documents`; an empty
 // `documents` stands for the folder beside a real bundle around `data`. Both

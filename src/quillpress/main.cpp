@@ -11,7 +11,7 @@ namespace {
 using namespace quill::quillpress;
 
 constexpr const char* kAbout =
-    "Builds, checks, shows and changes the content files of Quillmere.\n"
+    "Builds, checks, searches, shows and changes the content files of Quillmere.\n"
     "\"quillpress COMMAND --help\" tells all about a command.";
 
 int Tell(const std::exception& error, const char* before, ExitStatus status) {
@@ -31,6 +31,8 @@ int main(int argc, char** argv) {
   AddShowCommand(app, action);
   AddPageCommands(app, action);
   AddLinkCommands(app, action);
+  AddIndexCommand(app, action);
+  AddSearchCommand(app, action);
   AddSnapshotCommand(app, action);
   try {
     app.parse(argc, argv);

@@ -249,6 +249,9 @@ TEST_F(EditTest, RefusesFilesThatAreOutOfOrder) {
   EXPECT_THAT(refusal("ID>2</Last", "ID>7</Last", add), HasSubstr("LastPageID is 7, and the last page 2;"));
   EXPECT_THAT(refusal("<PageID>2<", "<PageID>5<", "page update StageQMR.xml 2 --title x"),
               HasSubstr("page 2: its id is \"5\"; put the ids of the file in order first."));
+  EXPECT_THAT(refusal("<Title>Next</Title>", "", "page update StageQMR.xml 1 --title x"),
+              HasSubstr("page 2: it would change too"))
+      << "a page without a title took the new one";
 }
 
 // The store passes over what isn't there; an edit must not.

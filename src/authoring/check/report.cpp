@@ -1,8 +1,8 @@
 #include "authoring/check/report.h"
 
 #include <algorithm>
-#include <cstdio>
 
+#include "authoring/json.h"
 #include "base/text_converter.h"
 
 namespace quill::authoring {
@@ -31,30 +31,7 @@ std::string Counted(std::int32_t count, const std::string& noun) {
   return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
 
-// `utf8` as a string of JSON.
-std::string JsonString(std::string_view utf8) {
-  std::string json = "\"";
-  for (const char c : utf8) {
-    if (c == '"' || c == '\\') {
-      json += {'\\', c};
-    } else if (IsControl(c)) {
-      char escape[8];
-      std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(c));
-      json += escape;
-    } else {
-      json += c;
-    }
-  }
-  return json + "\"";
-}
-
 std::string JsonText(std::string_view mac_roman) { return JsonString(base::MacRomanToUtf8(mac_roman)); }
-
-std::string Member(const char* name, const std::string& json) {
-  return std::string("\"") + name + "\": " + json;
-}
-
-std::string Member(const char* name, std::int32_t number) { return Member(name, std::to_string(number)); }
 
 // Parts of the location that aren't given are left out.
 std::string JsonOf(const Finding& finding) {
