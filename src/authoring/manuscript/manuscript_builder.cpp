@@ -83,7 +83,7 @@ void ManuscriptBuilder::EndParagraph() {
 
 void ManuscriptBuilder::AddIndexPlace(const Paragraph& paragraph) {
   if (const auto initials = InitialsOf(paragraph.letters))
-    return index_.AddPlace(*initials, paragraph.indent, manuscript_);
+    return index_.AddPlace(*initials, paragraph.indent, line_, manuscript_);
   Diagnose("the index, or a part of it, is {index:A-F} in a paragraph of its own, from letter to letter");
 }
 

@@ -62,13 +62,14 @@ void TermIndex::AddTerm(Term term) {
   entries_.push_back({std::move(key), std::move(term)});
 }
 
-void TermIndex::AddPlace(Initials initials, Indent indent, Manuscript& manuscript) {
+void TermIndex::AddPlace(Initials initials, Indent indent, int line, Manuscript& manuscript) {
   std::vector<Column>& columns = manuscript.pages.back().columns;
   Column& column = columns.back();
   TypesetParagraph({}, column, manuscript.diagnostics);
   indent.number.clear();
   places_.push_back({initials,
                      std::move(indent),
+                     line,
                      manuscript.pages.size() - 1,
                      columns.size() - 1,
                      {column.text.size(), column.words, column.runs.size()}});
@@ -99,7 +100,16 @@ void TermIndex::Sort(Diagnostics& diagnostics) {
 void TermIndex::Share(Diagnostics& diagnostics) {
   std::map<Initials, std::vector<Place*>> sharers;
   for (Place& place : places_) sharers[place.initials].push_back(&place);
-  for (const auto& [initials, places] : sharers) ShareAmong(places);
+  char last = '\0';  // letter that has been shared out
+  for (const auto& [initials, places] : sharers) {
+    if (initials.first > last) {
+      ShareAmong(places);
+    } else {
+      diagnostics.push_back({places.front()->line, std::string("other letters of the index take ") +
+                                                       initials.first + " in already"});
+    }
+    last = std::max(last, initials.last);
+  }
   for (const Entry& entry : entries_) {
     const char initial = Initial(entry.key);
     const auto has_initial = [initial](const auto& sharer) { return sharer.first.Has(initial); };

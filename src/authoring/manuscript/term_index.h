@@ -41,13 +41,14 @@ class TermIndex {
   void AddTerm(Term term);
 
   // Keeps a place for the terms with these initials at the end of the last column of
-  // the last page of `manuscript`. Until it is filled, an empty paragraph stands there.
-  void AddPlace(Initials initials, Indent indent, Manuscript& manuscript);
+  // the last page of `manuscript`, on that line of it. Until it is filled, an empty
+  // paragraph stands there.
+  void AddPlace(Initials initials, Indent indent, int line, Manuscript& manuscript);
 
   // Fills the places of `manuscript` with the terms in alphabetical order; case, accents
   // and signs don't count. Places for the same initials share their terms evenly, in the
-  // order of the places. A second equal term, and one that no place is for, go to the
-  // manuscript's diagnostics.
+  // order of the places. A second equal term, one that no place is for, and places that
+  // would list a term twice go to the manuscript's diagnostics.
   void Fill(Manuscript& manuscript);
 
  private:
@@ -66,6 +67,7 @@ class TermIndex {
   struct Place {
     Initials initials;
     Indent indent;
+    int line;
     std::size_t page;       // index of it in the manuscript
     std::size_t column;     // index of it on the page
     Spot spot;              // where the empty paragraph stands in it

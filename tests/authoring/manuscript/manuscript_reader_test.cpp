@@ -128,6 +128,8 @@ TEST(ManuscriptTest, SaysWhatIsWrongAndWhere) {
       {"# A {#a}\n<!-- Index: b -->\n\n{index:C-Z}", "2: no page lists the term \"b\""},
       {"# A {#a}\n<!-- Index: vo\nIndex: V.O. -->\n\n{index:A-Z}",
        "3: the index has the term \"V.O.\" already"},
+      {"# A {#a}\n<!-- Index: c -->\n\n{index:A-C}\n\n{index:C-Z}",
+       "6: other letters of the index take C in"},
       {"# A\n\n{index:F-A}", "3: the index, or a part of it, is {index:A-F}"},
       {"# A\n\n{index:A-F} x", "3: the index, or a part of it, is {index:A-F}"},
       {"# A\n\n\x01\xFF", "3: a page can't show the character (U+0001)\n3: these bytes are no characters"},
