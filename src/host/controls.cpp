@@ -85,6 +85,12 @@ EditField::EditField(Window& window, Canvas* parent, const base::Rect& frame, co
   ShowState();
 }
 
+FindBox::FindBox(Window& window, Canvas* parent, const base::Rect& frame)
+    : RectControl(parent, frame),
+      peer_(window.Peer().NewFindBox(*this, parent ? parent->peer_.get() : nullptr)) {
+  ShowState();
+}
+
 Window::Window(const WindowStyle& style) : style_(style), peer_(Desktop::Current().NewWindow(style, *this)) {}
 
 // Controls go before the window's peer, the last made first.

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -83,6 +84,10 @@ class Canvas : public RectControl {
 
   // Ours, not the domain's:
 
+  // Lays marks behind what is drawn on the canvas and the controls on it, until the
+  // next call; none takes them off.
+  void SetMarks(const std::vector<base::Rect>& marks) { peer_->SetMarks(marks); }
+
   // What the canvas says, for those who can't see it; empty if there is nothing
   // on it to press.
   void SetLabel(const std::string& label) { peer_->SetLabel(label); }
@@ -97,6 +102,7 @@ class Canvas : public RectControl {
   friend class StaticText;
   friend class CheckBox;
   friend class EditField;
+  friend class FindBox;
 
   std::unique_ptr<CanvasPeer> peer_;
   std::shared_ptr<Picture> backdrop_;
@@ -154,6 +160,30 @@ class EditField : public RectControl {
   std::unique_ptr<EditFieldPeer> peer_;
 };
 
+// A field for words, and below it the list of what was found for them. The arrow keys
+// move through the list from the field.
+class FindBox : public RectControl {
+ public:
+  FindBox(Window& window, Canvas* parent, const base::Rect& frame);
+
+  // Puts words (UTF-8) into the field, selected, without calling `Typed`.
+  void SetWords(const std::string& words) { peer_->SetWords(words); }
+
+  // Lists `rows`. `summary` says in a word what they are, for those who can't see them.
+  void SetFound(const std::vector<FoundRow>& rows, const std::string& summary) {
+    peer_->SetFound(rows, summary);
+  }
+
+  std::function<void(const std::string& words)> Typed;  // the words in the field have changed
+  std::function<void(std::size_t row)> Chosen;          // the user wants to see that row, from 0
+
+ protected:
+  FindBoxPeer& Peer() override { return *peer_; }
+
+ private:
+  std::unique_ptr<FindBoxPeer> peer_;
+};
+
 // A window and its controls, which it owns. It is open from `Open` to `Close`,
 // once in its life; a desktop closes it too, where the user may.
 class Window {
@@ -203,6 +233,9 @@ class Window {
   // Text was typed within the last two seconds, or the window loses the focus: time
   // for a copy, should the program come to a sudden end.
   virtual void Event_Keep() {}
+
+  // The user looks for something; asked of the main window.
+  virtual void Event_Find() {}
 
  protected:
   virtual void Event_Open() {}

@@ -8,8 +8,10 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "base/geometry.h"
+#include "host/found.h"
 #include "host/graphics.h"
 #include "host/reading.h"
 
@@ -17,6 +19,7 @@ namespace quill::host {
 
 class Canvas;
 class CheckBox;
+class FindBox;
 class Window;
 
 class ControlPeer {
@@ -41,6 +44,9 @@ class CanvasPeer : public ControlPeer {
   // The pen for the canvas's own drawing, which lies above the backdrop and
   // stays until drawn over; a change of size may drop it.
   virtual Graphics& GetGraphics() = 0;
+
+  // Rectangles of the canvas on which words stand out from now on.
+  virtual void SetMarks(const std::vector<base::Rect>& marks) = 0;
 
   // What the canvas says, for those who can't see it; empty if it is no control
   // that can be pressed.
@@ -68,6 +74,12 @@ class EditFieldPeer : public ControlPeer {
   virtual std::string Text() = 0;
 };
 
+class FindBoxPeer : public ControlPeer {
+ public:
+  virtual void SetWords(const std::string& words) = 0;
+  virtual void SetFound(const std::vector<FoundRow>& rows, const std::string& summary) = 0;
+};
+
 // Where the line of a `StaticText` stands in its frame.
 enum class TextAlign { kLeft = 0, kCenter = 1, kRight = 2 };
 
@@ -89,7 +101,11 @@ inline TextStyle SystemText(std::int32_t size, base::Color color, TextAlign alig
 
 // What a window is made with and keeps.
 struct WindowStyle {
-  enum class Frame { kDocument = 0, kDialog = 2 };
+  enum class Frame {
+    kDocument = 0,
+    kTool = 1,    // stands beside the main window, above it, and takes the focus
+    kDialog = 2,  // stands above the main window and leaves the focus where it is
+  };
 
   std::string title;
   std::int32_t width = 0;
@@ -115,6 +131,9 @@ class WindowPeer {
   // frame from the four edges of the window stay as the window's size changes.
   virtual std::unique_ptr<EditFieldPeer> NewEditField(const TextStyle& style, base::Color back_color,
                                                       ControlPeer* parent) = 0;
+
+  // A field for words with a list below it. Its frame keeps its distances, too.
+  virtual std::unique_ptr<FindBoxPeer> NewFindBox(FindBox& box, ControlPeer* parent) = 0;
 
   // Place and size of the window's content on the screen, in the program's pixels:
   // a desktop that shows windows larger or smaller counts the screen alike.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <system_error>
 
 #include "base/hash.h"
@@ -41,10 +42,11 @@ RecoveryCopy::RecoveryCopy(std::vector<std::shared_ptr<FolderItem>> folders, con
     places_.push_back({folder->Child(name + ".txt"), folder->Child(name + ".base"), {}});
 }
 
-std::optional<RecoveryCopy::Copy> RecoveryCopy::Read() const {
-  for (const Place& place : places_) {
-    if (auto text = ReadWhole(*place.text))
-      return Copy{std::move(*text), StateOf(ReadWhole(*place.base).value_or(""))};
+std::optional<RecoveryCopy::Copy> RecoveryCopy::Read() {
+  for (auto place = places_.begin(); place != places_.end();) {
+    if (auto text = ReadWhole(*place->text))
+      return Copy{std::move(*text), StateOf(ReadWhole(*place->base).value_or(""))};
+    place = place->text->Exists() ? places_.erase(place) : std::next(place);
   }
   return std::nullopt;
 }

@@ -35,8 +35,10 @@ class RecoveryCopy {
     FileState base;  // what it was typed over
   };
 
-  // The copy that an earlier run left; none if there is none that can be read.
-  std::optional<Copy> Read() const;
+  // The copy that an earlier run left; none if there is none that can be read. One that
+  // is there and can't be read may hold what nothing else does: this run leaves it
+  // alone, and writes to the other folders.
+  std::optional<Copy> Read();
 
   // Puts this copy in place of any other. False if no folder takes it; an older copy
   // may then still be there.

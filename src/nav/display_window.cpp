@@ -113,6 +113,12 @@ void DisplayWindow::EnterMode(const app::Destination& destination) {
   ChooseMode(destination.mode);
 }
 
+// A mode that opens on no page of its own opens on this one.
+void DisplayWindow::Visit(std::int32_t mode, std::int32_t page) {
+  if (mode != app_.mode) EnterMode({.kind = app::Destination::Kind::kMode, .mode = mode, .page = page});
+  if (CurrentPage != page) ShowPage(base::Str(page));
+}
+
 void DisplayWindow::ExitPB_IsPushed() {
   if (app_.CurrentMode().opening) {
     host::Quit(0);

@@ -26,11 +26,12 @@
 
 namespace quill::nav {
 
-// The windows that a link can open beside the viewer. They stand above this
-// floor; who joins the parts hands both in.
+// The windows that a link, or the reader, can open beside the viewer. They stand above this
+// floor; who joins the parts hands them in.
 struct SideWindows {
   std::function<void(const std::string& page)> show_glossary;
   std::function<void()> show_notes;
+  std::function<void()> show_find = [] {};
 };
 
 class DisplayWindow final : public host::Window {
@@ -51,6 +52,19 @@ class DisplayWindow final : public host::Window {
   const std::string& GetFont() const { return Font; }
 
   // Ours, not the domain's:
+
+  // Shows a page as a link to it would, entering its mode first if it is another.
+  // `mode` must be one of the table. The page on show stays as it is.
+  void Visit(std::int32_t mode, std::int32_t page);
+
+  // Given the words on show, Mac Roman and parted by blanks, returns which of them are
+  // meant: characters from and up to, from left to right.
+  using Finder = std::function<std::vector<std::pair<std::size_t, std::size_t>>(const std::string& words)>;
+
+  // Marks words of the page on show, until the next page is.
+  void Mark(const Finder& finder);
+
+  void Event_Find() override { side_windows_.show_find(); }
 
   // Returns what the viewer shows, as a few lines of text: mode, page, title,
   // trail, words and buttons in use.

@@ -24,6 +24,7 @@ void DisplayWindow::DrawPage(const std::string& page_number) {
   CurrentPage = base::IntVal(page_number);
   InitializeCanvas();
   InitLinkButtons();
+  Stext.SetMarks({});
   layout_ = {};
   const auto page = app_.doc ? app_.doc->GetPage(CurrentPage) : nullptr;
   TitleField.SetText(page ? page->GetTitle() : "");

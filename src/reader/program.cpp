@@ -18,7 +18,7 @@ nav::DisplayWindow& Program::DisplayWindow() {
   if (!viewer_) {
     viewer_ = std::make_unique<nav::DisplayWindow>(
         app_, nav::SideWindows{[this](const std::string& page) { GlossaryWindow().ShowPage(page); },
-                               [this] { FreeAssociation().Show(); }});
+                               [this] { FreeAssociation().Show(); }, [this] { FindWindow().Show(); }});
     viewer_->Open();
   }
   return *viewer_;
@@ -38,6 +38,16 @@ sidewindows::FreeAssociation& Program::FreeAssociation() {
     notes_->Open();
   }
   return *notes_;
+}
+
+sidewindows::FindWindow& Program::FindWindow() {
+  if (!find_ || !find_->IsOpen()) {
+    find_ = std::make_unique<sidewindows::FindWindow>(
+        app_, DisplayWindow(), [this](const std::string& page) { GlossaryWindow().ShowPage(page); },
+        find_words_);
+    find_->Open();
+  }
+  return *find_;
 }
 
 }  // namespace quill

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "app/app.h"
 #include "app/file_types.h"
 #include "nav/display_window.h"
+#include "sidewindows/find_window.h"
 #include "sidewindows/free_association.h"
 #include "sidewindows/glossary_window.h"
 
@@ -26,9 +28,10 @@ class Program {
   // first page.
   nav::DisplayWindow& DisplayWindow();
 
-  // The glossary, the notes pad: the window that is open, or a new one.
+  // The glossary, the notes pad, Find: the window that is open, or a new one.
   sidewindows::GlossaryWindow& GlossaryWindow();
   sidewindows::FreeAssociation& FreeAssociation();
+  sidewindows::FindWindow& FindWindow();
 
   app::App& App() { return app_; }
 
@@ -38,6 +41,8 @@ class Program {
   std::unique_ptr<nav::DisplayWindow> viewer_;
   std::unique_ptr<sidewindows::GlossaryWindow> glossary_;
   std::unique_ptr<sidewindows::FreeAssociation> notes_;
+  std::unique_ptr<sidewindows::FindWindow> find_;
+  std::string find_words_;  // typed last, UTF-8
 };
 
 }  // namespace quill

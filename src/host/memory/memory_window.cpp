@@ -47,6 +47,7 @@ class MemoryCanvasPeer final : public MemoryPeer<CanvasPeer> {
   }
   void SetBackdrop(const std::shared_ptr<Picture>& backdrop) override { control_.backdrop = backdrop; }
   Graphics& GetGraphics() override { return *control_.graphics; }
+  void SetMarks(const std::vector<base::Rect>& marks) override { control_.marks = marks; }
   void SetLabel(const std::string& label) override { control_.text = label; }
   void SetPurpose(const Purpose& purpose) override { control_.purpose = purpose; }
 };
@@ -75,6 +76,18 @@ class MemoryEditPeer final : public MemoryPeer<EditFieldPeer> {
       : MemoryPeer(std::move(screen), parent, MemoryControl::Kind::kEditField) {}
   void SetText(const std::string& text) override { control_.text = text; }
   std::string Text() override { return control_.text; }
+};
+
+class MemoryFindPeer final : public MemoryPeer<FindBoxPeer> {
+ public:
+  MemoryFindPeer(std::shared_ptr<MemoryScreen> screen, ControlPeer* parent, FindBox& box)
+      : MemoryPeer(std::move(screen), parent, MemoryControl::Kind::kFindBox) {
+    control_.find_box = &box;
+  }
+  void SetWords(const std::string& words) override { control_.text = words; }
+  void SetFound(const std::vector<FoundRow>& rows, const std::string& /*summary*/) override {
+    control_.found = rows;
+  }
 };
 
 struct Point {
@@ -111,6 +124,8 @@ std::string KindName(const MemoryControl& control) {
       return "check";
     case MemoryControl::Kind::kEditField:
       return "field";
+    case MemoryControl::Kind::kFindBox:
+      return "find";
   }
   return {};
 }
@@ -190,7 +205,16 @@ bool MemoryScreen::ClickLabel(const std::string& label) {
 void MemoryScreen::Type(const std::string& text) {
   for (MemoryControl* control : controls) {
     if (control->kind == MemoryControl::Kind::kEditField) control->text = text;
+    if (control->find_box != nullptr) {
+      control->text = text;
+      control->find_box->Typed(text);
+    }
   }
+}
+
+void MemoryScreen::Choose(std::size_t row) {
+  for (MemoryControl* control : controls)
+    if (control->find_box != nullptr) control->find_box->Chosen(row);
 }
 
 std::string MemoryScreen::Dump() const {
@@ -221,6 +245,10 @@ std::unique_ptr<CheckBoxPeer> MemoryWindow::NewCheckBox(CheckBox& box, const std
 std::unique_ptr<EditFieldPeer> MemoryWindow::NewEditField(const TextStyle& /*style*/,
                                                           base::Color /*back_color*/, ControlPeer* parent) {
   return std::make_unique<MemoryEditPeer>(screen_, parent);
+}
+
+std::unique_ptr<FindBoxPeer> MemoryWindow::NewFindBox(FindBox& box, ControlPeer* parent) {
+  return std::make_unique<MemoryFindPeer>(screen_, parent, box);
 }
 
 }  // namespace quill::host

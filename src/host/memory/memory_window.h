@@ -15,18 +15,21 @@ class MemoryWindow;
 
 // What a control would show. Kept by the window as long as the control lives.
 struct MemoryControl {
-  enum class Kind { kCanvas, kText, kCheckBox, kEditField };
+  enum class Kind { kCanvas, kText, kCheckBox, kEditField, kFindBox };
 
   Kind kind = Kind::kCanvas;
   const MemoryControl* parent = nullptr;  // null: the window itself
   base::Rect frame;                       // in its parent
   bool visible = true;
   bool enabled = true;
-  std::string text;  // of a text, check box or field; the label of a canvas
-  Purpose purpose;   // of a canvas
+  std::string text;               // of a text, check box or field; the label of a canvas
+  std::vector<base::Rect> marks;  // on a canvas
+  std::vector<FoundRow> found;    // in a find box
+  Purpose purpose;                // of a canvas
   bool checked = false;
   Canvas* canvas = nullptr;
   CheckBox* box = nullptr;
+  FindBox* find_box = nullptr;
   std::shared_ptr<Picture> backdrop;
   std::unique_ptr<RecordingGraphics> graphics;
 };
@@ -68,8 +71,11 @@ class MemoryScreen {
   // The user closes the window by its box, or the window manager does.
   void CloseBox() { window->Close(); }
 
-  // Puts `text` into the window's one edit field, as if typed.
+  // Puts `text` into the window's one edit field or find box, as if typed.
   void Type(const std::string& text);
+
+  // Chooses that row, from 0, in the window's one find box.
+  void Choose(std::size_t row);
 
   // A line for each visible control with a label or text, in order:
   //   button "Exit" 587,437 40x24
@@ -105,6 +111,7 @@ class MemoryWindow final : public WindowPeer {
                                             ControlPeer* parent) override;
   std::unique_ptr<EditFieldPeer> NewEditField(const TextStyle& style, base::Color back_color,
                                               ControlPeer* parent) override;
+  std::unique_ptr<FindBoxPeer> NewFindBox(FindBox& box, ControlPeer* parent) override;
   base::Rect Frame() const override { return screen_->frame; }
   void MoveTo(std::int32_t left, std::int32_t top) override {
     screen_->frame.left = left;

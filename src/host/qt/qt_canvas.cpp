@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "host/qt/qt_clicks.h"
+#include "host/qt/qt_marks.h"
 #include "host/qt/qt_values.h"
 
 namespace quill::host {
@@ -86,6 +87,12 @@ void CanvasWidget::SetBackdrop(const std::shared_ptr<Picture>& backdrop) {
   backdrop_ = std::dynamic_pointer_cast<QtPicture>(backdrop);
   if (backdrop_) backdrop_->AddViewer(*this);
   PictureChanged();
+}
+
+void CanvasWidget::SetMarks(const std::vector<base::Rect>& marks) {
+  if (marks_ == nullptr && marks.empty()) return;
+  if (marks_ == nullptr) marks_ = new MarksWidget(Look(), this);
+  marks_->SetMarks(marks);
 }
 
 void CanvasWidget::SetLabel(const std::string& label) {

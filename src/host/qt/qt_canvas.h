@@ -16,6 +16,8 @@
 
 namespace quill::host {
 
+class MarksWidget;
+
 class CanvasWidget final : public QWidget, public ScaledWidget, private PictureViewer {
  public:
   CanvasWidget(Canvas& canvas, QtMetrics& metrics, const QtLook& look, QWidget* parent);
@@ -34,6 +36,7 @@ class CanvasWidget final : public QWidget, public ScaledWidget, private PictureV
   void Place(const base::Rect& frame);
   void Rescale() override;
   void SetBackdrop(const std::shared_ptr<Picture>& backdrop);
+  void SetMarks(const std::vector<base::Rect>& marks);
   void SetLabel(const std::string& label);
   void SetPurpose(const Purpose& purpose);
 
@@ -69,6 +72,7 @@ class CanvasWidget final : public QWidget, public ScaledWidget, private PictureV
   QtDrawing drawing_;
   QtGraphics graphics_;
   std::shared_ptr<QtPicture> backdrop_;
+  MarksWidget* marks_ = nullptr;  // owned by this widget; null before the first
   QString name_;
   Purpose purpose_;
   bool painting_ = false;

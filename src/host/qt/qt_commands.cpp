@@ -17,7 +17,7 @@ constexpr KeyInWords kFocusKeys[] = {
     {"Arrows", "To the nearest link on that side"},
     {"Letters", "To the next link with a word that begins so"},
     {"Enter, Space", "Follow the link"},
-    {"Escape", "Close the glossary or the notes"},
+    {"Escape", "Close the glossary, the notes or Find"},
 };
 
 QString Line(const QString& keys, const QString& text) {
@@ -33,6 +33,7 @@ QString Names(const Keys& keys) {
 
 const std::vector<CommandRow>& Commands() {
   static const std::vector<CommandRow> commands = {
+      {Command::kFind, "Find...", Keys{Qt::CTRL | Qt::Key_F, QKeySequence::Find}, true},
       {Command::kCopy, "Copy page", Keys{QKeySequence::Copy}, true},
       {Command::kPrint, "Print page...", Keys{QKeySequence::Print}, true},
       {Command::kLarger, "Larger",
@@ -46,7 +47,8 @@ const std::vector<CommandRow>& Commands() {
       {Command::kBack, "One page back", Keys{Qt::ALT | Qt::Key_Left, Qt::Key_Back}, false},
       {Command::kHome, "To the opening page", Keys{Qt::Key_Home}, false},
       {Command::kSave, "Save the notes", Keys{QKeySequence::Save, Qt::CTRL | Qt::Key_S}, false},
-      {Command::kClose, "Close the glossary or the notes", Keys{Qt::CTRL | Qt::Key_W, Qt::Key_Escape}, false},
+      {Command::kClose, "Close the glossary, the notes or Find", Keys{Qt::CTRL | Qt::Key_W, Qt::Key_Escape},
+       false},
   };
   return commands;
 }

@@ -10,6 +10,7 @@ namespace quill::host {
 
 enum class Command {
   kNone,
+  kFind,
   kCopy,
   kPrint,
   kLarger,

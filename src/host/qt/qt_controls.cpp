@@ -32,6 +32,7 @@ class QtCanvas final : public QtPeer<CanvasPeer, CanvasWidget> {
   void Place(const base::Rect& frame) override { widget_->Place(frame); }
   void SetBackdrop(const std::shared_ptr<Picture>& backdrop) override { widget_->SetBackdrop(backdrop); }
   Graphics& GetGraphics() override { return widget_->GetGraphics(); }
+  void SetMarks(const std::vector<base::Rect>& marks) override { widget_->SetMarks(marks); }
   void SetLabel(const std::string& label) override { widget_->SetLabel(label); }
   void SetPurpose(const Purpose& purpose) override { widget_->SetPurpose(purpose); }
 };

@@ -1,6 +1,5 @@
 #include "host/qt/qt_edit_field.h"
 
-#include <QEvent>
 #include <QKeyEvent>
 #include <QTextDocument>
 #include <algorithm>
@@ -35,15 +34,6 @@ EditWidget::EditWidget(const TextStyle& style, base::Color back_color, QtMetrics
   setTabChangesFocus(true);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  parent->installEventFilter(this);
-}
-
-void EditWidget::Place(const base::Rect& frame) {
-  const QRect place = ToQRect(frame);
-  const QSize room = parentWidget()->size();
-  margins_ = QMargins(place.left(), place.top(), room.width() - place.right() - 1,
-                      room.height() - place.bottom() - 1);
-  setGeometry(place);
 }
 
 void EditWidget::Rescale() {
@@ -60,13 +50,6 @@ void EditWidget::keyPressEvent(QKeyEvent* event) {
   } else {
     QPlainTextEdit::keyPressEvent(event);
   }
-}
-
-bool EditWidget::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == parentWidget() && event->type() == QEvent::Resize) {
-    setGeometry(parentWidget()->rect().marginsRemoved(margins_));
-  }
-  return QPlainTextEdit::eventFilter(watched, event);
 }
 
 void EditWidget::SetBytes(const std::string& bytes) {

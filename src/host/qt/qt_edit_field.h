@@ -1,7 +1,6 @@
 // The field of several lines: the toolkit's own, with its undo, copy and paste.
 #pragma once
 
-#include <QMargins>
 #include <QPlainTextEdit>
 #include <functional>
 #include <memory>
@@ -9,6 +8,7 @@
 
 #include "host/edited_text.h"
 #include "host/peers.h"
+#include "host/qt/qt_edges.h"
 #include "host/qt/qt_scaled.h"
 #include "host/qt/qt_text.h"
 
@@ -21,7 +21,7 @@ class EditWidget final : public QPlainTextEdit, public ScaledWidget {
   EditWidget(const TextStyle& style, base::Color back_color, QtMetrics& metrics, const QtLook& look,
              QWidget* parent);
 
-  void Place(const base::Rect& frame);
+  void Place(const base::Rect& frame) { edges_.Place(*this, frame); }
 
   // The letters take the window's scale; the field keeps its place.
   void Rescale() override;
@@ -31,14 +31,13 @@ class EditWidget final : public QPlainTextEdit, public ScaledWidget {
   std::string Bytes() const;
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
   QFont font_;  // at the scale 1
   std::string given_;
   EditedText edited_ = EditedText("");  // of the bytes given
-  QMargins margins_;
+  EdgeKeeper edges_;
 };
 
 // Calls `changed` at every change of the text.

@@ -31,13 +31,13 @@ std::optional<fs::path> Followed(fs::path path) {
   return path;
 }
 
-// "/folder/.QMR.", before the number of the process and the number of the draft.
+// ".QMR", before the number of the process and the number of the draft.
 std::string DraftBegin(const fs::path& target) {
-  return "." + target.filename().string().substr(0, kLongestName) + ".";
+  return "." + target.filename().string().substr(0, kLongestName);
 }
 
 fs::path DraftPath(const fs::path& target, int number) {
-  const std::string own = std::to_string(getpid()) + "-" + std::to_string(number);
+  const std::string own = "." + std::to_string(getpid()) + "-" + std::to_string(number);
   return target.parent_path() / (DraftBegin(target) + own + std::string(kDraftEnd));
 }
 
@@ -58,11 +58,12 @@ bool SyncFolder(const fs::path& folder) {
   return synced;
 }
 
-// The process that wrote the draft of that name; 0 if it is no draft of that file.
+// The process that wrote the draft of that name; 0 if it is no draft of a file whose name begins so.
 pid_t WriterOf(std::string_view name, std::string_view begin) {
   if (!name.starts_with(begin) || !name.ends_with(kDraftEnd)) return 0;
+  const std::size_t dot = name.rfind('.', name.size() - kDraftEnd.size() - 1);
   pid_t writer = 0;
-  const auto end = std::from_chars(name.data() + begin.size(), name.data() + name.size(), writer);
+  const auto end = std::from_chars(name.data() + dot + 1, name.data() + name.size(), writer);
   return end.ec == std::errc() && *end.ptr == '-' && writer > 0 ? writer : 0;
 }
 

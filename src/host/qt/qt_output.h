@@ -40,8 +40,9 @@ class DiskOutput final : public TextOutputStream {
   bool failed_ = false;
 };
 
-// Removes the drafts of the file at `path` that processes left behind which have come
-// to a sudden end.
+// Removes the drafts that processes left behind which have come to a sudden end: those
+// of the file at `path`, and of files beside it whose names begin with its name, as
+// that of a text kept with the date does.
 void SweepDrafts(const std::filesystem::path& path);
 
 }  // namespace quill::host

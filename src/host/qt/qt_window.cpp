@@ -15,6 +15,7 @@
 #include "host/desktop.h"
 #include "host/qt/qt_controls.h"
 #include "host/qt/qt_edit_field.h"
+#include "host/qt/qt_find_box.h"
 #include "host/qt/qt_values.h"
 
 namespace quill::host {
@@ -32,7 +33,7 @@ constexpr QMargins kUsualFrame(4, 32, 4, 4);
 constexpr base::Color kGround = base::RGB(24, 24, 24);
 
 Qt::WindowFlags FlagsOf(const WindowStyle& style) {
-  Qt::WindowFlags flags = style.frame == kDialog ? Qt::Dialog : Qt::Window;
+  Qt::WindowFlags flags = style.frame == WindowStyle::Frame::kDocument ? Qt::Window : Qt::Dialog;
   flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
   if (style.close_button) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
   if (style.resizeable) flags |= Qt::WindowMinMaxButtonsHint;
@@ -60,15 +61,6 @@ bool IsOnSomeScreen(const QRect& place) {
   return std::any_of(screens.begin(), screens.end(), [&place](const QScreen* screen) {
     return screen->availableGeometry().contains(place.center());
   });
-}
-
-// The main window, if it is on the screen.
-WindowWidget* MainWindow() {
-  for (QWidget* const widget : QApplication::topLevelWidgets()) {
-    auto* const window = dynamic_cast<WindowWidget*>(widget);
-    if (window != nullptr && window->IsMain() && window->isVisible()) return window;
-  }
-  return nullptr;
 }
 
 // What it says can be copied: it may be the name of a file.
@@ -121,7 +113,9 @@ WindowWidget::WindowWidget(const WindowStyle& style, Window& window, QtView& vie
 
 WindowWidget::~WindowWidget() { view_.RemoveListener(*this); }
 
-bool WindowWidget::IsMain() const { return style_.frame != kDialog && !style_.close_button; }
+bool WindowWidget::IsMain() const {
+  return style_.frame == WindowStyle::Frame::kDocument && !style_.close_button;
+}
 
 void WindowWidget::Retire() {
   window_ = nullptr;
@@ -261,13 +255,24 @@ const AccessibleReading* WindowWidget::Accessible() {
 void WindowWidget::BringUp() {
   const bool shown_already = isVisible();
   if (windowType() == Qt::Dialog) {
-    setAttribute(Qt::WA_ShowWithoutActivating);
-    if (const auto* const owner = shown_already ? nullptr : MainWindow()) KeepAbove(*this, *owner);
+    setAttribute(Qt::WA_ShowWithoutActivating, style_.frame == kDialog);
+    if (const auto* const owner = shown_already ? nullptr : MainWindow()) {
+      KeepAbove(*this, *owner);
+      if (style_.frame != kDialog && !view_.PlaceOf(windowTitle())) PlaceBeside(*owner);
+    }
   }
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   if (shown_already) raise();  // a new one comes in front by itself
-  if (windowType() != Qt::Dialog) activateWindow();
+  if (style_.frame != kDialog) activateWindow();
+}
+
+// To the right of the owner, or over its right edge where the screen ends.
+void WindowWidget::PlaceBeside(const QWidget& owner) {
+  const QRect frame = owner.frameGeometry();
+  const int right =
+      screen()->availableGeometry().right() + 1 - kUsualFrame.left() - kUsualFrame.right() - width();
+  move(std::max(0, std::min(frame.right() + 1, right)), frame.top());
 }
 
 void WindowWidget::CloseWindow() {
@@ -345,6 +350,11 @@ std::unique_ptr<EditFieldPeer> QtWindow::NewEditField(const TextStyle& style, ba
                      [widget = widget_] { widget->NoteTyping(); });
 }
 
+std::unique_ptr<FindBoxPeer> QtWindow::NewFindBox(FindBox& box, ControlPeer* parent) {
+  const TextFace face = SystemText(12, base::kBlack).face;
+  return NewFindBoxPeer(box, metrics_.FontOf(face), widget_->Look(), ParentWidget(parent));
+}
+
 void QtWindow::SetReading(const Reading& reading) {
   widget_->SetReading(ToQtReading(reading, [this](const Canvas* canvas) -> CanvasWidget* {
     const auto found = canvases_.find(canvas);
@@ -354,6 +364,14 @@ void QtWindow::SetReading(const Reading& reading) {
 
 bool QtWindow::Save(const std::filesystem::path& path) {
   return widget_->grab().save(QString::fromStdString(path.string()), "PNG");
+}
+
+WindowWidget* MainWindow() {
+  for (QWidget* const widget : QApplication::topLevelWidgets()) {
+    auto* const window = dynamic_cast<WindowWidget*>(widget);
+    if (window != nullptr && window->IsMain() && window->isVisible()) return window;
+  }
+  return nullptr;
 }
 
 void RaiseMainWindow() {

@@ -93,6 +93,8 @@ class WindowWidget final : public QWidget, private QtView::Listener {
   void Carry(Command command);
   void CloseOnCommand();
   void CloseWindow();
+  void Find();
+  void PlaceBeside(const QWidget& owner);
   void Zoom(bool larger);
   void ToggleFullScreen();
   void ShowKeys();
@@ -125,6 +127,7 @@ class QtWindow final : public WindowPeer {
                                             ControlPeer* parent) override;
   std::unique_ptr<EditFieldPeer> NewEditField(const TextStyle& style, base::Color back_color,
                                               ControlPeer* parent) override;
+  std::unique_ptr<FindBoxPeer> NewFindBox(FindBox& box, ControlPeer* parent) override;
   base::Rect Frame() const override { return widget_->Frame(); }
   void MoveTo(std::int32_t left, std::int32_t top) override { widget_->MoveTo(left, top); }
   void SetReading(const Reading& reading) override;
@@ -143,6 +146,9 @@ class QtWindow final : public WindowPeer {
   QtMetrics& metrics_;
   std::map<const Canvas*, CanvasWidget*> canvases_;  // made so far
 };
+
+// The main window; null if it isn't on the screen.
+WindowWidget* MainWindow();
 
 // Brings the main window to the front, if there is one.
 void RaiseMainWindow();

@@ -54,6 +54,8 @@ bool WindowWidget::focusNextPrevChild(bool next) { return !reading_.IsEmpty() &&
 
 void WindowWidget::Carry(Command command) {
   switch (command) {
+    case Command::kFind:
+      return Find();
     case Command::kCopy:
       if (!reading_.IsEmpty()) QApplication::clipboard()->setText(reading_.PlainText());
       return;
@@ -97,6 +99,12 @@ void WindowWidget::CloseOnCommand() {
     if (other != nullptr && other->windowType() == Qt::Dialog && other->isVisible())
       return other->CloseWindow();
   }
+}
+
+// Whichever window is asked, the main one knows who finds.
+void WindowWidget::Find() {
+  const auto* const main = MainWindow();
+  if (main != nullptr && main->window_ != nullptr) main->window_->Event_Find();
 }
 
 // From the scale that shows, which may be smaller than the one asked for.
