@@ -212,5 +212,72 @@ TEST_F(GlossaryWindowTest, AnEntryThatIsNotThereLeavesTheGroundBare) {
   EXPECT_EQ(Drawn().size(), 1U);
 }
 
+struct FindWindowTest : testing::Test {
+  FindWindowTest() {
+    reader_.SetPages(
+        2, {{"P0", {""}}, {"Way in", {"on stage"}}, {"Acts", {"an act, acted\nplays"}, {{0, 2, "1", 0}}}});
+    reader_.SetPages(5, {{"P0", {""}}, {"Lives", {"of writers"}}, {"Ann", {"She acted."}}});
+    reader_.SetFile(app::kModes[5].glossary_file, tests::ContentXml({{"Actor", {"one who plays"}}}));
+    Open();
+  }
+
+  // From the viewer, as the desktop does.
+  void Open() {
+    reader_.Viewer().Event_Find();
+    find_ = reader_.desktop.screens.back();
+  }
+
+  std::string Rows(const std::string& words) {
+    find_->Type(words);
+    std::string rows;
+    for (const host::FoundRow& row : find_->controls.at(0)->found)
+      rows += row.title + " (" + row.place + ") ";
+    return rows;
+  }
+
+  std::string Shown() { return reader_.Viewer().Dump().substr(0, reader_.Viewer().Dump().find('\n')); }
+
+  tests::Reader reader_;
+  std::shared_ptr<host::MemoryScreen> find_;
+};
+
+TEST_F(FindWindowTest, ShowsHitsAsALinkWould) {
+  EXPECT_EQ(Rows("act"), "Acts (Stage) Ann (Bio) Actor (Bio, glossary) ");
+  find_->Choose(0);
+  EXPECT_EQ(Shown(), "mode 2 page 2 \"Acts\" trail 1 2");
+  const auto& marks = reader_.Screen().controls.at(0)->marks;
+  EXPECT_EQ(marks, (std::vector<base::Rect>{{58, 62, 44, 18}, {108, 62, 54, 18}}))
+      << "not the link before them";
+  ASSERT_TRUE(reader_.Click({"an"}));
+  EXPECT_EQ(Shown(), "mode 2 page 1 \"Way in\" trail 1 2 1");
+  EXPECT_TRUE(marks.empty()) << "another page";
+  Rows("acted");
+  find_->Choose(1);
+  EXPECT_EQ(Shown(), "mode 5 page 2 \"Ann\" trail 2") << "this area opens on any page";
+  find_->Choose(1);
+  EXPECT_EQ(Shown(), "mode 5 page 2 \"Ann\" trail 2") << "it is on show already";
+}
+
+TEST_F(FindWindowTest, AnEntryOfAnotherAreaOpensOverItsWayIn) {
+  EXPECT_EQ(Rows("area:bio actor"), "Actor (Bio, glossary) ");
+  find_->Choose(0);
+  EXPECT_EQ(Shown(), "mode 5 page 1 \"Lives\" trail 1");
+  EXPECT_EQ(reader_.desktop.screens.back()->controls.at(2)->text, "Actor");
+}
+
+TEST_F(FindWindowTest, OffersWhatThereIsAndKeepsItsWords) {
+  EXPECT_EQ(Rows("stge"), "Nothing found. Did you mean: () stage () ");
+  find_->Choose(0);
+  find_->Choose(1);
+  EXPECT_EQ(find_->controls.at(0)->text, "stage");
+  find_->CloseBox();
+  Open();
+  EXPECT_EQ(find_->controls.at(0)->text, "stage");
+  EXPECT_EQ(find_->controls.at(0)->found.at(0).title, "Way in");
+  EXPECT_EQ(Rows(" ,"), "");
+  find_->Choose(0);
+  EXPECT_EQ(Shown(), "mode 0 page 0 \"Cover\" trail");
+}
+
 }  // namespace
 }  // namespace quill::sidewindows
