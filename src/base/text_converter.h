@@ -1,8 +1,6 @@
 // Text encodings and the converters between them. The program knows two, both
 // one byte a character: Mac Roman, in which text is handled, and ISO 8859-1, in
 // which XML files hold it. The desktop that draws asks for Unicode besides.
-//
-// What the tables hold comes from the C library's iconv, asked once.
 #pragma once
 
 #include <array>
@@ -38,8 +36,7 @@ class TextConverter {
   Table table_;
 };
 
-// Returns the converter from one encoding to the other; null if the machine offers
-// none, which means that its C library came without these character sets.
+// Returns the converter from one encoding to the other.
 std::shared_ptr<TextConverter> GetTextConverter(TextEncoding from, TextEncoding to);
 
 // Returns the character of ISO 8859-1 nearest to a Unicode code point, "?" if there is

@@ -46,11 +46,11 @@ std::string LeftAlone(const FolderItem& file, const std::string& why) {
 }  // namespace
 
 KeptNotes::KeptNotes(std::shared_ptr<FolderItem> folder, std::string name,
-                     std::vector<std::shared_ptr<FolderItem>> recovery_folders)
+                     const std::vector<std::shared_ptr<FolderItem>>& recovery_folders)
     : folder_(std::move(folder)),
       name_(std::move(name)),
       file_(folder_ ? folder_->Child(name_) : nullptr),
-      recovery_(std::move(recovery_folders), file_ ? file_->Path() : "") {}
+      recovery_(recovery_folders, file_ ? file_->Path() : "") {}
 
 KeptNotes::Found KeptNotes::Look() const {
   if (!file_) return {};

@@ -34,7 +34,7 @@ class KeptNotes {
   // The notes are the file `name` in `folder`, which is null where there is none for
   // them. `recovery_folders` come best first and may be none.
   KeptNotes(std::shared_ptr<FolderItem> folder, std::string name,
-            std::vector<std::shared_ptr<FolderItem>> recovery_folders);
+            const std::vector<std::shared_ptr<FolderItem>>& recovery_folders);
 
   struct Opened {
     std::string text;   // for the field

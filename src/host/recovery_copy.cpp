@@ -36,7 +36,7 @@ FileState StateOf(const std::string& words) {
 
 }  // namespace
 
-RecoveryCopy::RecoveryCopy(std::vector<std::shared_ptr<FolderItem>> folders, const std::string& path) {
+RecoveryCopy::RecoveryCopy(const std::vector<std::shared_ptr<FolderItem>>& folders, const std::string& path) {
   const std::string name = "unsaved-" + Hex(base::Hash64(path));
   for (const auto& folder : folders)
     places_.push_back({folder->Child(name + ".txt"), folder->Child(name + ".base"), {}});

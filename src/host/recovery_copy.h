@@ -28,7 +28,7 @@ struct FileState {
 class RecoveryCopy {
  public:
   // For the file at `path`; copies for other files lie beside it unharmed.
-  RecoveryCopy(std::vector<std::shared_ptr<FolderItem>> folders, const std::string& path);
+  RecoveryCopy(const std::vector<std::shared_ptr<FolderItem>>& folders, const std::string& path);
 
   struct Copy {
     std::string text;

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "app/mode_table.h"
 #include "authoring/complaint.h"
@@ -23,12 +24,20 @@ void RequireNoContentFile(const std::filesystem::path& data, const std::string& 
         throw authoring::FileComplaint(output + " is a content file; nothing was written.");
 }
 
+// An index that lacks an area would look like a whole one.
+void RequireAllRead(const search::Library& library) {
+  for (const search::Source& source : library.sources)
+    if (source.hash == 0) throw authoring::FileComplaint(source.name + " can't be read.");
+}
+
 ExitStatus RunIndex(const std::string& data, const std::string& output) {
   RequireFolder(data);
   RequireNoContentFile(data, output);
   const Workplace workplace(BundleView(data));
   RequireContent();
-  if (!WriteFile(output, search::Index(search::ReadLibrary()).FileBytes()))
+  search::Library library = search::ReadLibrary();
+  RequireAllRead(library);
+  if (!WriteFile(output, search::Index(std::move(library)).FileBytes()))
     throw authoring::FileComplaint(output + " can't be written.");
   return kDone;
 }

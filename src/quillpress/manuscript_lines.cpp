@@ -24,8 +24,9 @@ std::string NameOf(const search::Hit& hit) {
 }  // namespace
 
 ManuscriptLine ManuscriptLines::LineOf(const search::Hit& hit, const search::Query& query) {
-  ManuscriptLine place{NameOf(hit), 0};
-  const Manuscript& manuscript = Read(place.file);
+  const std::string name = NameOf(hit);
+  const Manuscript& manuscript = Read(name);
+  ManuscriptLine place{(folder_ / name).string(), 0};
   const auto page = static_cast<std::size_t>(std::strtoul(hit.page.c_str(), nullptr, 10));
   if (page >= manuscript.pages.size() || manuscript.pages[page].title != hit.title) return place;
   place.line = manuscript.pages[page].line;

@@ -12,7 +12,7 @@ namespace quill::quillpress {
 
 // A line of a manuscript; 0 if the manuscript doesn't hold what was found.
 struct ManuscriptLine {
-  std::string file;  // its name
+  std::string file;  // its path, that of the folder before its name
   int line = 0;      // from 1
 };
 

@@ -1,6 +1,7 @@
 #include "search/index.h"
 
 #include <algorithm>
+#include <functional>
 #include <tuple>
 #include <utility>
 
@@ -66,6 +67,16 @@ std::string MatchOf(const Query& query, const Vocabulary* vocabulary) {
   return match;
 }
 
+// Tells the last word typed what it finds beyond the words that begin so, to be marked.
+void AddStems(const Vocabulary& vocabulary, Term& term) {
+  const std::string& typed = term.words.back().word;
+  if (!term.beginning || typed.size() < 3) return;
+  for (const std::string& word : vocabulary.StartingWith(typed)) {
+    std::string stem = Tokens(word).front().stem;
+    if (!stem.starts_with(typed)) term.stems.push_back(std::move(stem));
+  }
+}
+
 // The first word of the query that stands nowhere, with its nearest.
 void TellNearest(const Query& query, const Vocabulary& vocabulary, Answer& answer) {
   for (const Term& term : query.terms) {
@@ -82,7 +93,7 @@ void TellNearest(const Query& query, const Vocabulary& vocabulary, Answer& answe
 }  // namespace
 
 struct Index::Found {
-  std::size_t text = 0;      // its index
+  std::size_t text = 0;        // its index
   bool only_leads_on = false;  // an index names the words, and another page is about them
   bool begins_only = false;    // a word of the text goes on from the last one typed
   double score = 0;
@@ -101,7 +112,8 @@ class Index::Search {
       : index_(index), query_(query), area_on_show_(area_on_show), found_at_(index.library_.texts.size()) {}
 
   // Texts that have the very words come before those in which the last one only begins.
-  // The latter need no order if there are `limit` of the former.
+  // The latter need no order if there are `limit` of the former, those aside that come
+  // behind both.
   std::vector<Found> Run(std::size_t limit) {
     const std::string whole = MatchOf(query_, nullptr);
     const std::string begun = MatchOf(query_, index_.vocabulary_.get());
@@ -109,9 +121,10 @@ class Index::Search {
     Rank(whole, found_.size());
     if (begun == whole) return std::move(found_);
     const std::size_t wholes = found_.size();
+    const auto first = std::count_if(found_.begin(), found_.end(), std::not_fn(&Found::only_leads_on));
     begins_only_ = true;
     Add(begun);
-    if (wholes < limit) Rank(begun, found_.size() - wholes);
+    if (static_cast<std::size_t>(first) < limit) Rank(begun, found_.size() - wholes);
     return std::move(found_);
   }
 
@@ -174,11 +187,13 @@ std::unique_ptr<Index> Index::OfBundle(app::Modes modes) {
 
 Answer Index::Find(std::string_view typed, std::optional<std::int32_t> area_on_show,
                    std::size_t limit) const {
-  const Query query = ParseQuery(typed);
+  Query query = ParseQuery(typed);
   if (!database_ || query.terms.empty()) return {};
+  AddStems(*vocabulary_, query.terms.back());
   try {
     std::vector<Found> found = Search(*this, query, area_on_show).Run(limit);
     Answer answer;
+    answer.query = query;
     answer.total = found.size();
     if (found.empty()) TellNearest(query, *vocabulary_, answer);
     const auto best = found.begin() + static_cast<std::ptrdiff_t>(std::min(limit, found.size()));

@@ -44,6 +44,7 @@ struct Hit {
 struct Answer {
   std::vector<Hit> hits;
   std::size_t total = 0;  // of hits, those beyond the limit counted
+  Query query = {};       // as it was taken, to mark the words on a page (`MarkedIn`)
 
   // If there are no hits since a word of the query stands nowhere: that word, in lower
   // case and without accents, and the words that are nearest to it, best first.

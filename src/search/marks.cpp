@@ -19,18 +19,22 @@ struct MarkedTokens {
   std::vector<std::size_t> terms;  // by token: number of the term, from 1, that means it; 0 for none
 };
 
-bool MeansWord(const Token& meant, bool beginning, const Token& token) {
-  return token.stem == meant.stem || (beginning && token.word.starts_with(meant.word));
+bool MeansWord(const Token& meant, const Token& token) { return token.stem == meant.stem; }
+
+bool MeansLastWord(const Term& term, const Token& token) {
+  const Token& meant = term.words.back();
+  if (MeansWord(meant, token)) return true;
+  return term.beginning && (token.word.starts_with(meant.word) ||
+                            std::find(term.stems.begin(), term.stems.end(), token.stem) != term.stems.end());
 }
 
 // Whether the term's words stand at the token with index `at`.
 bool StandsAt(const Term& term, const std::vector<Token>& tokens, std::size_t at) {
   if (tokens.size() - at < term.words.size()) return false;
-  for (std::size_t i = 0; i < term.words.size(); ++i) {
-    const bool last = i + 1 == term.words.size();
-    if (!MeansWord(term.words[i], last && term.beginning, tokens[at + i])) return false;
-  }
-  return true;
+  const std::size_t last = term.words.size() - 1;
+  for (std::size_t i = 0; i < last; ++i)
+    if (!MeansWord(term.words[i], tokens[at + i])) return false;
+  return MeansLastWord(term, tokens[at + last]);
 }
 
 MarkedTokens Mark(std::string_view text, const Query& query) {

@@ -25,6 +25,10 @@ inline constexpr std::size_t kMostQueryWords = 32;
 struct Term {
   std::vector<Token> words;
   bool beginning = false;  // the last word may go on
+
+  // Stems of words that go on from it, when they don't begin with it themselves: "join"
+  // of "joini". Only an index knows them, and fills this.
+  std::vector<std::string> stems = {};
 };
 
 // A page must have all terms.

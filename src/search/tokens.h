@@ -17,9 +17,6 @@ struct Token {
   std::size_t end = 0;
 };
 
-// How a table of the index names these tokenizers.
-inline constexpr const char* kTokenizer = "porter unicode61 remove_diacritics 2";
-
 // Returns the words of `text`, UTF-8; bytes that aren't part words. None if SQLite has
 // no such tokenizers.
 std::vector<Token> Tokens(std::string_view text);

@@ -97,7 +97,7 @@ void FindWindow::ShowHit(const search::Hit& hit) {
   if (hit.kind == search::Kind::kPage) {
     viewer_.Visit(hit.mode, base::IntVal(hit.page));
     viewer_.Mark([this](const std::string& text) {
-      return PairsOf(search::MarkedIn(base::MacRomanToUtf8(text), words_));
+      return PairsOf(search::MarkedIn(base::MacRomanToUtf8(text), answer_.query));
     });
     return;
   }

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <iconv.h>
 
 #include "base/exceptions.h"
 #include "base/text_converter.h"
@@ -61,8 +62,15 @@ TEST(TextConverter, ConvertsByteForByte) {
   int kept = 0;
   for (std::size_t byte = 0; byte < 256; ++byte) kept += back.at(byte) == all[byte] ? 1 : 0;
   EXPECT_EQ(kept, 208) << "128 of ASCII and 80 letters and signs stand in both";
-  EXPECT_EQ(MacRomanToUtf16(all).size(), 256u);
-  EXPECT_EQ(MacRomanToUtf16(all).find(u'\uFFFD'), std::u16string::npos);
+  std::u16string points(256, u'\0');
+  auto* in = all.data();
+  auto* out = reinterpret_cast<char*>(points.data());
+  std::size_t in_left = all.size();
+  std::size_t out_left = 2 * points.size();
+  const iconv_t library = iconv_open("UTF-16LE", "MACINTOSH");
+  ASSERT_EQ(iconv(library, &in, &in_left, &out, &out_left), 0u);
+  iconv_close(library);
+  EXPECT_EQ(MacRomanToUtf16(all), points) << "as the C library has them";
   EXPECT_EQ(MacRomanToUtf8("a\x8E\xD5\xDB"), "a\xC3\xA9\xE2\x80\x99\xE2\x82\xAC");
 }
 

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -26,10 +25,14 @@ std::string Mutated(const std::vector<std::string>& seeds, std::mt19937& random)
   return bytes;
 }
 
+// As many as take about half a second each. They are the same each time, so that a change that has nothing to
+// do with them doesn't fail; another number gives others, and script/attack goes on for as long as you like.
 // The number is told beforehand, so that it is there after a crash too.
+constexpr std::size_t kInputs = 800;
+
 TEST(Attacks, FindNothing) {
   const char* const given = std::getenv("QUILL_FUZZ_SEED");
-  const auto number = given != nullptr ? static_cast<unsigned>(std::stoul(given)) : std::random_device()();
+  const auto number = given != nullptr ? static_cast<unsigned>(std::stoul(given)) : 1U;
   for (const auto& [name, run] : kAttacks) {
     std::cout << name << ": QUILL_FUZZ_SEED=" << number << std::endl;
     std::mt19937 random(number);
@@ -37,8 +40,7 @@ TEST(Attacks, FindNothing) {
     for (const auto& file : std::filesystem::directory_iterator(std::string(QUILL_SEEDS).append(name)))
       seeds.push_back((std::ostringstream() << std::ifstream(file.path()).rdbuf()).str());
     std::sort(seeds.begin(), seeds.end());
-    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(700);
-    for (std::size_t i = 0; std::chrono::steady_clock::now() < end; ++i) {
+    for (std::size_t i = 0; i < kInputs; ++i) {
       const std::string input = i < seeds.size() ? seeds[i] : Mutated(seeds, random);
       try {
         run(input);

@@ -164,6 +164,23 @@ TEST(CheckTest, TellsOfAllFilesThatCantBeOpened) {
   EXPECT_THAT(outcome.err, HasSubstr("BioQMR.xml can't be opened as a content file.\n"));
 }
 
+// With the index beside the content and without, by file and by manuscript.
+TEST(SearchTest, TellsWhereAnAuthorFindsIt) {
+  const Bundle bundle;
+  tests::WriteFile(bundle.data / "m/stage.md", "# Cover\n\n# Way in\n\nBegin\n\nA word of rehearsal\n");
+  const std::string found =
+      "page 1: \"Way in\": Begin here with Next and a word of rehearsal The Paper end\n1 of 1 hit\n";
+  EXPECT_EQ(bundle.Run("search . words rehears").out, kStage + ": " + found);
+  EXPECT_EQ(bundle.Run("search . words rehears", "'" QUILLPRESS "' index . -o index.db").out,
+            kStage + ": " + found);
+  EXPECT_THAT(bundle.Run("search . rehearsal --manuscripts m").out, StartsWith("m/stage.md:7: \"Way in\""));
+  EXPECT_EQ(bundle.Run("search . rehersal").out,
+            "0 of 0 hits\n\"rehersal\" stands nowhere; the nearest words: rehearsal\n");
+  EXPECT_THAT(
+      bundle.Run("search . paper --format json").out,
+      HasSubstr("\"file\": \"StageQMR.xml\", \"page\": 1, \"title\": \"Way in\", \"text\": \"...and a word"));
+}
+
 struct EditTest : testing::Test {
   Outcome Run(const std::string& arguments, const std::string& before = "true") {
     return bundle.Run(arguments, "F=StageQMR.xml; " + before);

@@ -36,6 +36,13 @@ const std::vector<Row> kRows = {
     {"snapshot . --mode 2 -o folder", 2, "folder can't be written."},
     {"snapshot . --mode 6 -o page.png", 2, "--mode"},
     {"snapshot folder --mode 2 -o page.png", 2, "initQMR.xml isn't there."},
+    {"index . -o index.db", 0, ""},
+    {"index . -o folder/../TVQMR.xml", 2, "TVQMR.xml is a content file; nothing was written."},
+    {"index folder -o index.db", 2, "initQMR.xml isn't there."},
+    {"search . rehears", 0, ""},
+    {"search . rehearse --area tv", 1, ""},
+    {"search . word --area init", 2, "init not in"},
+    {"search . word --manuscripts none", 2, "none is no folder."},
     {"", 2, ""},
     {"--help", 0, ""},
 };
