@@ -34,22 +34,23 @@ std::string WellFormed(std::string_view text) {
 class QueryParser {
  public:
   Query Parse(std::string_view text) {
-    while (!text.empty()) {
-      const char first = text.front();
-      if (IsBlank(first) || first == '"') text.remove_prefix(1);
-      if (first == '"') {
-        const std::string_view quoted = TakeUntil(text, [](char c) { return c == '"'; });
-        AddTerm(quoted, text.empty());
-        if (!text.empty()) text.remove_prefix(1);
-      } else if (!IsBlank(first)) {
-        AddSpelling(TakeUntil(text, [](char c) { return IsBlank(c) || c == '"'; }));
-      }
-    }
+    while (!text.empty()) TakePart(text);
     for (std::size_t i = 0; i + 1 < query_.terms.size(); ++i) query_.terms[i].beginning = false;
     return std::move(query_);
   }
 
  private:
+  // Cuts off a blank, what stands in quotes, or a spelling.
+  void TakePart(std::string_view& text) {
+    const char first = text.front();
+    if (IsBlank(first)) return text.remove_prefix(1);
+    if (first != '"') return AddSpelling(TakeUntil(text, [](char c) { return IsBlank(c) || c == '"'; }));
+    text.remove_prefix(1);
+    const std::string_view quoted = TakeUntil(text, [](char c) { return c == '"'; });
+    AddTerm(quoted, text.empty());
+    if (!text.empty()) text.remove_prefix(1);
+  }
+
   void AddSpelling(std::string_view spelling) {
     const std::string upper = base::Uppercase(spelling);
     if (!upper.starts_with(kAreaMark)) return AddTerm(spelling, true);

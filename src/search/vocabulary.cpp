@@ -110,6 +110,7 @@ std::vector<std::string> Vocabulary::Nearest(std::string_view word, bool beginni
   std::stable_sort(neighbours.begin(), neighbours.end());
   neighbours.resize(std::min(neighbours.size(), most));
   std::vector<std::string> nearest;
+  nearest.reserve(neighbours.size());
   for (const Neighbour& neighbour : neighbours) nearest.push_back(neighbour.word->word);
   return nearest;
 }
@@ -123,6 +124,7 @@ std::vector<Word> WordsOf(const Library& library) {
     }
   }
   std::vector<Word> sorted;
+  sorted.reserve(words.size());
   for (auto& [key, word] : words) sorted.push_back(std::move(word));
   return sorted;
 }

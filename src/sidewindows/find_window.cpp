@@ -27,6 +27,7 @@ host::WindowStyle FindStyle() {
 
 std::vector<Range> PairsOf(const std::vector<search::Range>& ranges) {
   std::vector<Range> pairs;
+  pairs.reserve(ranges.size());
   for (const search::Range& range : ranges) pairs.emplace_back(range.begin, range.end);
   return pairs;
 }

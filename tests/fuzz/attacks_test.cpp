@@ -25,6 +25,20 @@ std::string Mutated(const std::vector<std::string>& seeds, std::mt19937& random)
   return bytes;
 }
 
+std::vector<std::string> SeedsOf(std::string_view attack) {
+  std::vector<std::string> seeds;
+  for (const auto& file : std::filesystem::directory_iterator(std::string(QUILL_SEEDS).append(attack)))
+    seeds.push_back((std::ostringstream() << std::ifstream(file.path()).rdbuf()).str());
+  std::sort(seeds.begin(), seeds.end());
+  return seeds;
+}
+
+void RunOnce(const Attack& attack, const std::string& input) try {
+  attack.run(input);
+} catch (const std::exception& failure) {
+  FAIL() << attack.name << " of " << Quoted(input) << ": " << failure.what();
+}
+
 // As many as take about half a second each. They are the same each time, so that a change that has nothing to
 // do with them doesn't fail; another number gives others, and script/attack goes on for as long as you like.
 // The number is told beforehand, so that it is there after a crash too.
@@ -33,21 +47,12 @@ constexpr std::size_t kInputs = 800;
 TEST(Attacks, FindNothing) {
   const char* const given = std::getenv("QUILL_FUZZ_SEED");
   const auto number = given != nullptr ? static_cast<unsigned>(std::stoul(given)) : 1U;
-  for (const auto& [name, run] : kAttacks) {
-    std::cout << name << ": QUILL_FUZZ_SEED=" << number << std::endl;
+  for (const Attack& attack : kAttacks) {
+    std::cout << attack.name << ": QUILL_FUZZ_SEED=" << number << std::endl;
     std::mt19937 random(number);
-    std::vector<std::string> seeds;
-    for (const auto& file : std::filesystem::directory_iterator(std::string(QUILL_SEEDS).append(name)))
-      seeds.push_back((std::ostringstream() << std::ifstream(file.path()).rdbuf()).str());
-    std::sort(seeds.begin(), seeds.end());
-    for (std::size_t i = 0; i < kInputs; ++i) {
-      const std::string input = i < seeds.size() ? seeds[i] : Mutated(seeds, random);
-      try {
-        run(input);
-      } catch (const std::exception& failure) {
-        FAIL() << name << " of " << Quoted(input) << ": " << failure.what();
-      }
-    }
+    const std::vector<std::string> seeds = SeedsOf(attack.name);
+    for (std::size_t i = 0; i < kInputs && !HasFailure(); ++i)
+      RunOnce(attack, i < seeds.size() ? seeds[i] : Mutated(seeds, random));
   }
 }
 

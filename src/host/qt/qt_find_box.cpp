@@ -21,7 +21,7 @@ namespace quill::host {
 namespace {
 
 constexpr int kMostLetters = 1000;  // in the field
-constexpr int kMargin = 5;          // around what a row says, pixels
+constexpr int kRowMargin = 5;       // around what a row says, pixels
 constexpr int kLines = 2;           // of the line around the words
 constexpr int kPlaceRole = Qt::UserRole;
 constexpr int kLineRole = Qt::UserRole + 1;
@@ -49,14 +49,14 @@ class RowPainter final : public QStyledItemDelegate {
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const int lines = index.data(kLineRole).toString().isEmpty() ? 1 : 1 + kLines;
-    return {0, lines * option.fontMetrics.lineSpacing() + 2 * kMargin};
+    return {0, lines * option.fontMetrics.lineSpacing() + 2 * kRowMargin};
   }
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const bool selected = (option.state & QStyle::State_Selected) != 0;
     if (selected) painter->fillRect(option.rect, option.palette.highlight());
     painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-    const QRect room = option.rect.adjusted(kMargin, kMargin, -kMargin, -kMargin);
+    const QRect room = option.rect.adjusted(kRowMargin, kRowMargin, -kRowMargin, -kRowMargin);
     PaintHead(*painter, option.font, room, index);
     PaintLines(*painter, option.font, room.adjusted(0, option.fontMetrics.lineSpacing(), 0, 0), index);
   }
@@ -66,7 +66,7 @@ class RowPainter final : public QStyledItemDelegate {
     const QString place = index.data(kPlaceRole).toString();
     painter.setFont(font);
     painter.drawText(room, Qt::AlignRight | Qt::AlignTop | Qt::TextSingleLine, place);
-    const int left = room.width() - painter.fontMetrics().horizontalAdvance(place) - 2 * kMargin;
+    const int left = room.width() - painter.fontMetrics().horizontalAdvance(place) - 2 * kRowMargin;
     font.setBold(true);
     painter.setFont(font);
     const QString title = index.data(Qt::DisplayRole).toString();

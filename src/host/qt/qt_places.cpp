@@ -16,7 +16,7 @@ constexpr const char* kOwnFolder = "quillmere";
 fs::path Absolute(const char* path) { return path != nullptr && *path == '/' ? fs::path(path) : fs::path(); }
 
 fs::path HomeFolder() {
-  const fs::path named = Absolute(std::getenv("HOME"));
+  fs::path named = Absolute(std::getenv("HOME"));
   if (!named.empty()) return named;
   passwd entry = {};
   passwd* found = nullptr;
@@ -28,7 +28,7 @@ fs::path HomeFolder() {
 }
 
 fs::path Folder(const char* variable, const char* in_home) {
-  const fs::path named = Absolute(std::getenv(variable));
+  fs::path named = Absolute(std::getenv(variable));
   if (!named.empty()) return named;
   const fs::path home = HomeFolder();
   return home.empty() ? home : home / in_home;
