@@ -41,7 +41,7 @@ routine; how to start; character arc; flaw; wound; stakes; obstacles; conflict; 
 antihero; ally; minor characters; names; naming characters; introducing characters; children; animals;
 ensemble; likeable; agent; how to find an agent; query letter; pitch; pitching; meeting; general meeting;
 producer; who buys; options; how much does an option pay; purchase price; contract; deal memo; copyright;
-protect script; registering; register my script; spec; what is a spec; spec script; contests; written by;
+protect script; registering; register my script; speculative; on speculation; speculative script; contests; written by;
 ampersand; arbitration; minimum; pension; health plan; strike; joining; invoice; late pay; taxes; reversion;
 turnaround; writing partner; splitting up; stage directions; cast list; entrances; offstage; chorus;
 one act play; ten minute play; puppets; verse; radio play; rehearsal; director; dramaturg;

@@ -51,7 +51,7 @@ scene heading=Screen Scene headings; page length minutes=Screen How long; inciti
 area:bio keaton=Bio Buster Keaton; ten minute play=Stage Ten minutes; registered script=WGA Registering;
 title page=Screen The title page; how long is a pilot=TV The pilot; dell'arte=Bio Commedia dell'arte;
 where songs=Stage Where songs go; work for hire=WGA Work for hire; slug line=Screen Scene heading;
-adapting novel=Screen Adapting; spec=Screen Speculative script; protect script=WGA Registering;
+adapting novel=Screen Adapting; speculat=Screen Speculative script; protect script=WGA Registering;
 writers' room=TV Writers' room; pension=WGA Pension and health; incit=Screen What sets it off;
 phone call=Screen Phone calls; V.O. O.S.=Screen Off and over; fourth wall=Stage Fourth wall;
 e and o=WGA E and O insurance; voice over=Screen Voice-over; query letter=Screen A letter; farce=Stage Farce;
