@@ -29,7 +29,7 @@ class KeptNotes {
   // More than this isn't opened: a field would take too long to show it. In bytes; a
   // line's end is LF or CR.
   static constexpr std::uint64_t kLargest = 16 << 20;
-  static constexpr std::size_t kLongestLine = 1 << 20;
+  static constexpr std::size_t kLongestLine = 1 << 18;
 
   // The notes are the file `name` in `folder`, which is null where there is none for
   // them. `recovery_folders` come best first and may be none.
